@@ -18,9 +18,9 @@ public:
     LvBox3f(const LvVec3f& newMin, const LvVec3f& newMax) : min(newMin), max(newMax) {}
 
     void makeEmpty() {
-        constexpr float FAR = std::numeric_limits<float>::max();
-        min = {FAR, FAR, FAR};
-        max = {-FAR, -FAR, -FAR};
+        constexpr float FARTHEST = std::numeric_limits<float>::max();
+        min = {FARTHEST, FARTHEST, FARTHEST};
+        max = {-FARTHEST, -FARTHEST, -FARTHEST};
     }
     bool isEmpty() const { return max.x < min.x || max.y < min.y || max.z < min.z; }
 

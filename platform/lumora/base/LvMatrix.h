@@ -24,11 +24,15 @@ public:
                       const LvRotation& scaleOrientation = {});
 
     /// Splits the matrix into what setTransform takes. A sheared matrix gives a scale orientation, a mirrored
-    /// one a negative scale; a matrix that flattens space gives a scale of 0 on that axis.
+    /// one a negative scale; a matrix that flattens space gives a scale of 0 on that axis. A matrix that only
+    /// scales by factors of 0 and above and translates comes back exactly, without rotation. Numbers that are
+    /// not finite give the identity.
     void getTransform(LvVec3f& translation, LvRotation& rotation, LvVec3f& scale,
                       LvRotation& scaleOrientation) const;
 
+    /// The point seen through the matrix, divided by its fourth coordinate where a projection makes one.
     LvVec3f transformPoint(const LvVec3f& point) const;
+    /// The direction seen through the matrix, which does not move it; its length changes as the scale says.
     LvVec3f transformDirection(const LvVec3f& direction) const;
     LvVec3f getTranslation() const { return {m_matrix[3][0], m_matrix[3][1], m_matrix[3][2]}; }
 
