@@ -1,0 +1,15 @@
+# SPDX-License-Identifier: MIT
+# apps/X becomes the program panelix-X, examples/X the program example-X. A folder without main.cpp holds data.
+function(panelix_add_programs folder prefix)
+    file(GLOB mains CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${folder}/*/main.cpp)
+    foreach(main IN LISTS mains)
+        cmake_path(GET main PARENT_PATH home)
+        cmake_path(GET home FILENAME name)
+        file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${home}/*.cpp)
+        add_executable(${prefix}-${name} ${sources})
+        target_link_libraries(${prefix}-${name} PRIVATE panelix panelix-options)
+    endforeach()
+endfunction()
+
+panelix_add_programs(apps panelix)
+panelix_add_programs(examples example)

@@ -1,0 +1,33 @@
+# SPDX-License-Identifier: MIT
+# One program of all tests, run by CTest case by case.
+if(NOT EXISTS /usr/src/googletest/CMakeLists.txt)
+    message(FATAL_ERROR "The tests need Google Test's sources: install the Debian package googletest")
+endif()
+set(INSTALL_GTEST OFF)
+add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+
+file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/*Test.cpp)
+list(FILTER sources EXCLUDE REGEX "/tests/(desktop|fuzz)/")
+file(GLOB host CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/*.cpp)
+if(NOT WIN32)
+    file(GLOB native CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/native/*.cpp)
+    list(APPEND host ${native})
+endif()
+list(APPEND sources ${host})
+list(REMOVE_DUPLICATES sources)
+
+# Typefaces are the same on both targets: those that come with Wine.
+configure_file(cmake/fonts.conf.in ${CMAKE_BINARY_DIR}/fonts.conf @ONLY)
+
+add_executable(panelix-tests ${sources})
+target_link_libraries(panelix-tests PRIVATE panelix panelix-options GTest::gtest GTest::gmock)
+set_property(SOURCE ${host} APPEND PROPERTY COMPILE_DEFINITIONS
+    PANELIX_TEST_FONTS="${CMAKE_BINARY_DIR}/fonts.conf" PANELIX_TEST_OUTPUT="${CMAKE_BINARY_DIR}/test-output")
+
+include(GoogleTest)
+# Asked for its cases when they are run, not when it is built: a build needs no Wine and no display.
+gtest_discover_tests(panelix-tests
+    DISCOVERY_MODE PRE_TEST
+    DISCOVERY_TIMEOUT 120
+    WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
+    PROPERTIES TIMEOUT 120)
