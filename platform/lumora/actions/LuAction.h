@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/lumora/actions/LuPath.h"
+#include "platform/lumora/actions/LuTraversalState.h"
+
+class LuNode;
+
+/// Walks a graph, or the part of it that matters to a path, and does something at each node.
+class LuAction {
+public:
+    /// Where the traversal stands with respect to the path it was applied to.
+    enum class PathCode {
+        NO_PATH,    ///< Applied to a node.
+        IN_PATH,    ///< At a node of the path, above its end.
+        BELOW_PATH, ///< At the end of the path, or below.
+        OFF_PATH    ///< Beside the path, at a node that comes before it.
+    };
+
+    LuAction() = default;
+    LuAction(const LuAction&) = delete;
+    LuAction& operator=(const LuAction&) = delete;
+    virtual ~LuAction() = default;
+
+    /// Starts at a node. It is referenced meanwhile.
+    void apply(LuNode* node);
+    void apply(const LuPath& path);
+    void apply(const LuPathList& paths);
+
+    PathCode getPathCode() const { return m_pathCode; }
+
+    /// In the path, the number of the child that the path goes on with and the child itself in `indices`;
+    /// otherwise 0.
+    PathCode usePathCode(int& numIndices, const int*& indices);
+
+    LuTraversalState& getState() { return m_state; }
+    const LuTraversalState& getState() const { return m_state; }
+
+    /// Goes on with a child of the current node.
+    void traverseChild(LuNode* child, int index);
+
+    /// True once nothing further can change the result; nodes then don't go on.
+    bool hasTerminated() const { return m_hasTerminated; }
+
+    /// The nodes from where the action was applied to the current one, for actions that keep them.
+    struct Step {
+        LuNode* node;
+        int index;
+    };
+    const std::vector<Step>& getCurrentSteps() const { return m_steps; }
+
+protected:
+    /// What the action does at a node.
+    virtual void visit(LuNode* node) = 0;
+
+    /// Before and after each apply to a node or a path.
+    virtual void begin() {}
+    virtual void end() {}
+
+    void setTerminated() { m_hasTerminated = true; }
+
+    /// To be set in the constructor of an action that needs getCurrentSteps.
+    void keepSteps() { m_keepsSteps = true; }
+
+    LuTraversalState m_state;
+
+private:
+    void start();
+    PathCode codeAt(int pathDepth) const;
+    void visitChild(LuNode* child, int index);
+
+    const LuPath* m_path = nullptr;
+    int m_pathDepth = 0;
+    int m_nextIndex = -1;
+    PathCode m_pathCode = PathCode::NO_PATH;
+    bool m_hasTerminated = false;
+    bool m_keepsSteps = false;
+    std::vector<Step> m_steps;
+};

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "platform/lumora/actions/LuGetBoundingBoxAction.h"
+
+#include "platform/lumora/nodes/LuNode.h"
+
+#include <algorithm>
+#include <limits>
+
+void LuGetBoundingBoxAction::visit(LuNode* node) { node->getBoundingBox(this); }
+
+void LuGetBoundingBoxAction::begin() {
+    m_box.makeEmpty();
+    m_separatorDepth = 0;
+    m_usedDepth = std::numeric_limits<int>::max();
+}
+
+void LuGetBoundingBoxAction::extendBy(const LvBox3f& box) {
+    if (box.isEmpty())
+        return;
+    LvBox3f transformed = box;
+    transformed.transform(m_state.model);
+    m_box.extendBy(transformed);
+}
+
+void LuGetBoundingBoxAction::noteInheritedState() {
+    m_usedDepth = std::min({m_usedDepth, m_state.fontDepth, m_state.coordinateDepth});
+}
+
+LuGetBoundingBoxAction::Saved LuGetBoundingBoxAction::enterSeparator() {
+    const Saved saved{m_state, m_box, m_usedDepth};
+    m_state.model = LvMatrix();
+    m_box.makeEmpty();
+    m_usedDepth = std::numeric_limits<int>::max();
+    ++m_separatorDepth;
+    return saved;
+}
+
+void LuGetBoundingBoxAction::leaveSeparator(const Saved& saved, LuBoundingBoxCache* cache) {
+    const LvBox3f content = m_box;
+    if (cache && m_usedDepth >= m_separatorDepth)
+        cache->set(content);
+    --m_separatorDepth;
+    m_usedDepth = std::min(m_usedDepth, saved.usedDepth);
+    m_state = saved.state;
+    m_box = saved.box;
+    extendBy(content);
+}

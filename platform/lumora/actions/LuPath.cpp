@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "platform/lumora/actions/LuPath.h"
+
+#include "platform/lumora/nodes/LuNode.h"
+
+LuPath& LuPath::operator=(const LuPath& other) {
+    if (this == &other)
+        return *this;
+    for (const Step& step : other.m_steps)
+        step.node->ref();
+    truncate(0);
+    m_steps = other.m_steps;
+    m_numPublic = other.m_numPublic;
+    return *this;
+}
+
+void LuPath::append(LuNode* node, int index) {
+    node->ref();
+    m_steps.push_back({node, index});
+}
+
+void LuPath::truncate(int length) {
+    while (getFullLength() > length) {
+        LuNode* const node = m_steps.back().node;
+        m_steps.pop_back();
+        node->unref();
+    }
+    m_numPublic = -1;
+}
+
+int LuPath::getLength() const {
+    return m_numPublic >= 0 && m_numPublic < getFullLength() ? m_numPublic : getFullLength();
+}
+
+LuNode* LuPath::getNode(int depth) const {
+    return depth >= 0 && depth < getLength() ? m_steps[static_cast<std::size_t>(depth)].node : nullptr;
+}
+
+bool LuPath::containsNode(const LuNode* node) const {
+    for (int i = 0; i < getLength(); ++i) {
+        if (getNode(i) == node)
+            return true;
+    }
+    return false;
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/lumora/base/LvMatrix.h"
+#include "platform/lumora/base/LvName.h"
+
+class LuClipPlane;
+class LuCoordinate3;
+class LuMaterial;
+
+/// What the nodes of a traversal hand on to those after them. Plain data: separators save it as a whole and
+/// bring it back. The nodes pointed to live longer than the traversal.
+class LuTraversalState {
+public:
+    LvMatrix model; ///< From the current node's space to that of the innermost separator with a cache, or the
+                    ///< root's where the action keeps no caches.
+
+    LvName fontName{"Tahoma"};
+    float fontSize = 10.0F; ///< Scene units.
+    const LuCoordinate3* coordinates = nullptr;
+    int pickStyle = 0; ///< LuPickStyle::Style.
+
+    /// Depth of separators at which the font and the coordinates were set: a box that uses what was set
+    /// outside of a separator can't be kept in it.
+    int fontDepth = 0;
+    int coordinateDepth = 0;
+};

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/lumora/base/LuObserverList.h"
+#include "platform/lumora/base/LuType.h"
+
+#include <vector>
+
+class LuField;
+class LuInput;
+class LuOutput;
+
+/// Counts references. The last unref calls destroy, which deletes the object.
+class LuRefCounter : public LuTypedObject {
+public:
+    void ref() const { ++m_refCount; }
+    void unref() const;
+
+    /// Gives a reference back without ending the object: for handing a fresh object on.
+    void unrefNoDestroy() const { --m_refCount; }
+    int getRefCount() const { return m_refCount; }
+
+protected:
+    LuRefCounter() = default;
+    LuRefCounter(const LuRefCounter&) = delete;
+    LuRefCounter& operator=(const LuRefCounter&) = delete;
+
+    /// Called when the last reference has gone.
+    virtual void destroy();
+
+private:
+    mutable std::int32_t m_refCount = 0;
+};
+
+/// One change on its way up the graph.
+struct LuNotification {
+    LuBase* origin = nullptr; ///< The object that changed.
+    LuField* field = nullptr; ///< The field of it that changed; null when the list of children did.
+    std::uint32_t stamp = 0;  ///< Visits each object once, however many ways lead up to it.
+    bool isMuted = false;     ///< An object with notification off stands on the way: sensors stay silent.
+};
+
+/// An object with a name, that tells who observes it of its changes.
+class LuBase : public LuRefCounter {
+public:
+    static LuType getClassTypeId();
+
+    /// The DEF name; empty when it has none. Several objects may have one name.
+    LvName getName() const { return m_name; }
+    void setName(LvName name);
+
+    /// All objects of a name, in the order in which they got it.
+    static const std::vector<LuBase*>& getNamed(LvName name);
+
+    /// Switches notification on or off; the value before is the result. While it is off no sensor fires for
+    /// a change in this object, or below it by way of this object. Cached results are dropped all the same.
+    bool enableNotify(bool isEnabled);
+    bool isNotifyEnabled() const { return m_isNotifyEnabled; }
+
+    /// Tells all observers that this object, or with `field` this field of it, has changed.
+    void startNotify(LuField* field = nullptr);
+
+    /// Takes a change in from below and hands it on. Called by the fields and lists that hold objects.
+    virtual void notify(LuNotification& notification);
+
+    void addObserver(LuObserver observer) { m_observers.add(observer); }
+    void removeObserver(LuObserver observer) { m_observers.remove(observer); }
+
+    /// The number of places that hold or observe this object.
+    const LuObserverList& getObservers() const { return m_observers; }
+
+    /// Reads one object of the given type from a file: a description by type name, by DEF and type name, or
+    /// USE of one before. `base` is null at the end of a list of children, or of the file. False on a
+    /// failure, which has been reported.
+    static bool read(LuInput* in, LuBase*& base, LuType type, bool isChild = true);
+
+    /// Reads what stands between an object's braces. `flags`: bit 2 (value 2) says that a binary object has
+    /// children.
+    virtual bool readInstance(LuInput* in, unsigned short flags);
+
+    /// In the writer's first stage: counts one more place that writes this object.
+    virtual void addWriteReference(LuOutput* out, bool isFromField = false);
+
+    /// In the second stage: true when this object, or something below it, is to be written.
+    virtual bool shouldWrite();
+
+    /// Writes what stands before an object's fields: type, DEF name and opening brace, or USE. True when the
+    /// object is done with by that: it has been written before.
+    bool writeHeader(LuOutput* out, bool isGroup, bool isEngine);
+
+    /// Writes the closing brace.
+    void writeFooter(LuOutput* out);
+
+protected:
+    LuBase() = default;
+    ~LuBase() override;
+
+    /// Throws away what the object has computed from its fields and from what lies below.
+    virtual void invalidateCaches() {}
+
+private:
+    LvName m_name;
+    LuObserverList m_observers;
+    std::uint32_t m_notifyStamp = 0;
+    bool m_isNotifyEnabled = true;
+};

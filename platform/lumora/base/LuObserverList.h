@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+class LuBase;
+class LuField;
+class LuSensor;
+
+/// Who is told of a change: a node above, a field that holds the node or is connected, or a sensor.
+class LuObserver {
+public:
+    enum class Kind : std::uintptr_t { NODE = 0, FIELD = 1, SENSOR = 2 };
+
+    explicit LuObserver(LuBase* node) : LuObserver(node, Kind::NODE) {}
+    explicit LuObserver(LuField* field) : LuObserver(field, Kind::FIELD) {}
+    explicit LuObserver(LuSensor* sensor) : LuObserver(sensor, Kind::SENSOR) {}
+
+    Kind getKind() const { return static_cast<Kind>(m_bits & KIND_MASK); }
+    LuBase* getNode() const { return static_cast<LuBase*>(getPointer()); }
+    LuField* getField() const { return static_cast<LuField*>(getPointer()); }
+    LuSensor* getSensor() const { return static_cast<LuSensor*>(getPointer()); }
+
+    friend bool operator==(LuObserver, LuObserver) = default;
+
+private:
+    friend class LuObserverList;
+    static constexpr std::uintptr_t KIND_MASK = 3;
+
+    explicit LuObserver(std::uintptr_t bits) : m_bits(bits) {}
+    LuObserver(void* pointer, Kind kind)
+        : m_bits(reinterpret_cast<std::uintptr_t>(pointer) | static_cast<std::uintptr_t>(kind)) {}
+    void* getPointer() const { return reinterpret_cast<void*>(m_bits & ~KIND_MASK); }
+
+    std::uintptr_t m_bits;
+};
+
+/// The observers of a node or a field, in the size of one pointer: none and one, by far the most frequent
+/// numbers, need no memory of their own.
+class LuObserverList {
+public:
+    LuObserverList() = default;
+    LuObserverList(const LuObserverList&) = delete;
+    LuObserverList& operator=(const LuObserverList&) = delete;
+    ~LuObserverList();
+
+    bool isEmpty() const { return m_bits == 0; }
+    int getLength() const;
+    LuObserver operator[](int index) const;
+    bool contains(LuObserver observer) const;
+
+    /// An observer that observes twice stands in the list twice.
+    void add(LuObserver observer);
+
+    /// Calls `function` for each observer of this moment. What is called may change the list: an observer
+    /// that has left it meanwhile is left out, one that has come waits for the next time.
+    template <class Function>
+    void forEach(Function function) const {
+        const int length = getLength();
+        if (length == 1) {
+            function((*this)[0]);
+        } else if (length > 1) {
+            for (const LuObserver observer : Many(getMany())) {
+                if (contains(observer))
+                    function(observer);
+            }
+        }
+    }
+
+    /// Removes one entry of the observer; none is no fault. Long lists don't keep their order, so that the
+    /// thousands of parents of a shared node come and go at a small cost.
+    void remove(LuObserver observer);
+
+private:
+    using Many = std::vector<LuObserver>;
+    static constexpr std::uintptr_t MANY = 3;
+
+    bool isMany() const { return (m_bits & MANY) == MANY; }
+    Many& getMany() const { return *reinterpret_cast<Many*>(m_bits & ~MANY); }
+
+    std::uintptr_t m_bits = 0;
+};

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "platform/lumora/fields/LuField.h"
+
+#include "platform/lumora/base/LuDebugError.h"
+#include "platform/lumora/fields/LuFieldContainer.h"
+#include "platform/lumora/sensors/LuSensor.h"
+
+#include <cstring>
+#include <unordered_map>
+
+namespace {
+
+/// Connections are rare: they cost an entry here, and a field without one costs nothing.
+std::unordered_map<const LuField*, LuField*>& getMasters() {
+    static auto& s_masters = *new std::unordered_map<const LuField*, LuField*>;
+    return s_masters;
+}
+
+} // namespace
+
+LuField::~LuField() {
+    disconnect();
+    while (!m_observers.isEmpty()) {
+        const LuObserver observer = m_observers[0];
+        if (observer.getKind() == LuObserver::Kind::FIELD)
+            observer.getField()->disconnect();
+        else
+            static_cast<LuFieldSensor*>(observer.getSensor())->detach();
+    }
+}
+
+bool LuField::connectFrom(LuField* master) {
+    disconnect();
+    if (!master || master == this)
+        return false;
+    if (std::strcmp(master->getTypeName(), getTypeName()) != 0) {
+        LuDebugError::post("LuField::connectFrom",
+                           "A field of type %s can't be connected from one of type %s.", getTypeName(),
+                           master->getTypeName());
+        return false;
+    }
+    getMasters()[this] = master;
+    m_isConnected = true;
+    master->addObserver(LuObserver(this));
+    copyFrom(*master);
+    return true;
+}
+
+void LuField::disconnect() {
+    if (!m_isConnected)
+        return;
+    const auto found = getMasters().find(this);
+    found->second->removeObserver(LuObserver(this));
+    getMasters().erase(found);
+    m_isConnected = false;
+}
+
+LuField* LuField::getConnectedField() const { return m_isConnected ? getMasters().at(this) : nullptr; }
+
+void LuField::notifyFromBelow(LuNotification& notification) {
+    tellObservers(notification);
+    if (m_container)
+        m_container->notify(notification);
+}
+
+void LuField::tellObservers(LuNotification& notification) {
+    const bool wasMuted = notification.isMuted;
+    notification.isMuted = wasMuted || (m_container && !m_container->isNotifyEnabled());
+    if (!notification.isMuted)
+        m_observers.forEach([&](LuObserver observer) {
+            if (observer.getKind() == LuObserver::Kind::SENSOR)
+                observer.getSensor()->notify(notification);
+            else
+                passOn(*observer.getField());
+        });
+    notification.isMuted = wasMuted;
+}
+
+void LuField::passOn(LuField& slave) {
+    // A circle of connections ends at the field that is still passing its value on.
+    if (slave.m_isPassingOn)
+        return;
+    m_isPassingOn = true;
+    slave.copyFrom(*this);
+    m_isPassingOn = false;
+}
+
+void LuField::tellOfChange() {
+    LuFieldContainer* const container = m_container;
+    // The container may lose its last reference in what is called.
+    const bool isHeld = container && container->getRefCount() > 0;
+    if (isHeld)
+        container->ref();
+    if (container)
+        container->startNotify(this);
+    if (!m_observers.isEmpty()) {
+        LuNotification notification{container, this, 0, false};
+        tellObservers(notification);
+    }
+    if (isHeld)
+        container->unref();
+}

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/lumora/kits/LuNodekitCatalog.h"
+#include "platform/lumora/nodes/LuGroup.h"
+
+/// A node made of named parts. Each part is a LuSFNode field of the kit; the catalogue of the class tells
+/// which part hangs below which. A part comes into being when it, or a part below it, is first set.
+///
+/// The kit's list of children holds the parts whose parent is the kit itself; a class derived from it may
+/// keep children of its own there too, in front of them.
+class LuBaseKit : public LuNode {
+public:
+    static void initClass();
+    static LuType getClassTypeId();
+    static const LuFieldData** getFieldDataPtr();
+    static const LuNodekitCatalog** getClassNodekitCatalogPtr();
+
+    /// Whether a search goes into kits at all. Off at the start, as in applications that treat kits as
+    /// leaves; the application switches it.
+    static bool searchingChildren;
+
+    virtual const LuNodekitCatalog* getNodekitCatalog() const = 0;
+
+    /// The node in a part. With `makeIfNeeded` a part without one gets a node of its default type. Null for
+    /// an unknown part.
+    LuNode* getPart(LvName part, bool makeIfNeeded);
+
+    /// Puts a node in a part, null to empty it; the parts above come into being. False, with a message, for
+    /// an unknown part or a node of a wrong type.
+    bool setPart(LvName part, LuNode* node);
+
+    /// The name of the part that holds the node; empty when none does.
+    LvName getPartString(const LuNode* node) const;
+
+    LuChildList* getChildren() const override { return const_cast<LuChildList*>(&m_children); }
+    bool affectsState() const override { return false; }
+    void doAction(LuAction* action) override;
+    void getBoundingBox(LuGetBoundingBoxAction* action) override;
+    void search(LuSearchAction* action) override;
+    void write(LuWriteAction* action) override;
+    bool readInstance(LuInput* in, unsigned short flags) override;
+
+protected:
+    LuBaseKit() : m_children(this) {}
+
+    /// Called by each class's constructor once its parts are in the catalogue.
+    bool createNodekitPartsList();
+    void createDefaultParts();
+
+    /// Reports an entry that the catalogue did not take.
+    void catalogError();
+
+    LuSFNode* getPartField(int part) const;
+
+    /// Makes a part hold a node, with the parts above it. `isDefault` is the default flag of the field
+    /// afterwards.
+    bool setPartByNumber(int part, LuNode* node, bool isDefault);
+    LuNode* makePart(int part);
+
+    /// Ends the writing of an object that writeHeader began.
+    void endWrite(LuWriteAction* action);
+
+    /// The operations by which generic code changes the list of children. A class whose children are typed
+    /// overrides them.
+    virtual void internalAddChild(LuNode* child);
+    virtual int internalFindChild(const LuNode* child) const;
+    virtual void internalInsertChild(LuNode* child, int index);
+    virtual LuNode* internalGetChild(int index) const;
+    virtual void internalRemoveChild(LuNode* child);
+    virtual void internalRemoveChild(int index);
+    virtual void internalRemoveAllChildren();
+    virtual void internalReplaceChild(LuNode* child, LuNode* newChild);
+    virtual void internalReplaceChild(int index, LuNode* newChild);
+
+    void invalidateCaches() override { m_boxCache.invalidate(); }
+
+    /// The children of the class's own in front, then the parts of the kit.
+    LuChildList m_children;
+
+private:
+    LuChildList* getParentList(int part);
+    int getInsertIndex(int part, const LuChildList& siblings) const;
+
+    LuBoundingBoxCache m_boxCache;
+};
+
+/// What a class of kits has once, whatever its number of instances.
+struct LuKitClass : LuNodeClass {
+    const LuNodekitCatalog* nodekitCatalog = nullptr;
+    const LuNodekitCatalog** parentNodekitCatalogPtr = nullptr;
+    bool isBuiltIn = false;
+    LvThreadMutex classMutex;
+};
+
+/// Registers a kit's fields and parts from its constructor; see LuNodeConstructor.
+class LuKitConstructor {
+public:
+    LuKitConstructor(LuKitClass& kitClass, LuBaseKit* kit, void (*initClass)());
+    LuKitConstructor(const LuKitConstructor&) = delete;
+    LuKitConstructor& operator=(const LuKitConstructor&) = delete;
+
+    void field(const char* name, LuField& field);
+    void enumField(const char* name, LuSFEnum& field, const char* typeName,
+                   std::initializer_list<std::pair<const char*, int>> values);
+
+    /// Adds a part, null by default, no list, without a right sibling; the type, which is the default type
+    /// too, by its registered name. False when the catalogue did not take it.
+    bool part(const char* name, LuSFNode& field, const char* type, const char* parent, bool isPublic);
+
+private:
+    LuKitClass& m_class;
+    LuBaseKit* m_kit;
+    LuNodeConstructor m_fields;
+};
+
+/// What each class of kits says in its definition, and LU_KIT_SOURCE in its source file.
+#define LU_KIT_HEADER(Class)                                                                                 \
+public:                                                                                                      \
+    static void initClass();                                                                                 \
+    static void exitClass();                                                                                 \
+    static LuTypedObject* createInstance() { return new Class; }                                             \
+    LU_KIT_OPERATIONS(Class)
+
+/// The same for an abstract class, of which there are no instances.
+#define LU_KIT_ABSTRACT_HEADER(Class)                                                                        \
+public:                                                                                                      \
+    static void initClass();                                                                                 \
+    static void exitClass();                                                                                 \
+    LU_KIT_OPERATIONS(Class)
+
+#define LU_KIT_OPERATIONS(Class)                                                                             \
+    static LuType getClassTypeId() { return s_class.classTypeId; }                                           \
+    LuType getTypeId() const override { return s_class.classTypeId; }                                        \
+    const LuFieldData* getFieldData() const override { return luGetFieldData(s_class); }                     \
+    static const LuFieldData** getFieldDataPtr() { return &s_class.fieldData; }                              \
+    static const LuNodekitCatalog* getClassNodekitCatalog() { return s_class.nodekitCatalog; }               \
+    static const LuNodekitCatalog** getClassNodekitCatalogPtr() { return &s_class.nodekitCatalog; }          \
+    const LuNodekitCatalog* getNodekitCatalog() const override { return s_class.nodekitCatalog; }            \
+                                                                                                             \
+private:                                                                                                     \
+    static LuKitClass s_class;                                                                               \
+                                                                                                             \
+public:
+
+#define LU_KIT_SOURCE(Class, Parent, typeName)                                                               \
+    LU_KIT_SOURCE_WITH(Class, Parent, typeName, &Class::createInstance)
+#define LU_KIT_ABSTRACT_SOURCE(Class, Parent, typeName) LU_KIT_SOURCE_WITH(Class, Parent, typeName, nullptr)
+
+#define LU_KIT_SOURCE_WITH(Class, Parent, typeName, create)                                                  \
+    LuKitClass Class::s_class;                                                                               \
+    void Class::initClass() {                                                                                \
+        if (Parent::getClassTypeId().isBad())                                                                \
+            Parent::initClass();                                                                             \
+        luInitKitClass(s_class, Parent::getClassTypeId(), Parent::getFieldDataPtr(),                         \
+                       Parent::getClassNodekitCatalogPtr(), typeName, create);                               \
+    }                                                                                                        \
+    void Class::exitClass() { luExitKitClass(s_class); }
+
+/// What the macros' operations do.
+void luInitKitClass(LuKitClass& kitClass, LuType parent, const LuFieldData** parentFieldData,
+                    const LuNodekitCatalog** parentCatalog, const char* typeName,
+                    LuType::CreateMethod create);
+void luExitKitClass(LuKitClass& kitClass);
+const LuFieldData* luGetFieldData(LuKitClass& kitClass);

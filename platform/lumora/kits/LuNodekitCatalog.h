@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/lumora/base/LuType.h"
+
+#include <cstddef>
+#include <vector>
+
+/// One part of a kit class.
+struct LuNodekitPart {
+    LvName name;
+    LuType type;        ///< What may stand in the part.
+    LuType defaultType; ///< What the kit makes itself.
+    bool nullByDefault = true;
+    LvName parent;       ///< The part it is a child of; "this" for the kit itself.
+    LvName rightSibling; ///< The part that comes after it; empty for none.
+    bool isList = false;
+    LuType listContainerType;
+    LuType listItemType;
+    bool isPublic = false;
+    std::ptrdiff_t fieldOffset = 0; ///< Of the part's LuSFNode field within the kit.
+};
+
+/// The table of the parts of a class of kits. Entry 0 is the kit itself, named "this". It is made once for
+/// the class.
+class LuNodekitCatalog {
+public:
+    static constexpr int THIS_PART = 0;
+
+    explicit LuNodekitCatalog(LuType kitType);
+
+    /// A copy for a derived class. It is the caller's.
+    LuNodekitCatalog* clone(LuType kitType) const;
+
+    /// Adds a part. False for a name that is there already, a parent that isn't, or a bad type.
+    bool addEntry(const LuNodekitPart& part);
+
+    int getNumEntries() const { return static_cast<int>(m_parts.size()); }
+
+    /// Index of a part by its name, or -1.
+    int getPartNumber(LvName name) const;
+    LvName getName(int part) const { return getPart(part).name; }
+    bool isPublic(int part) const { return getPart(part).isPublic; }
+    const LuNodekitPart& getPart(int part) const { return m_parts[static_cast<std::size_t>(part)]; }
+
+private:
+    std::vector<LuNodekitPart> m_parts;
+};

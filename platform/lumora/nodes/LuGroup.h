@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/lumora/actions/LuBoundingBoxCache.h"
+#include "platform/lumora/nodes/LuChildList.h"
+#include "platform/lumora/nodes/LuNode.h"
+
+/// A node with an ordered list of children. What they set reaches the nodes that come after the group.
+class LuGroup : public LuNode {
+    LU_NODE_HEADER(LuGroup)
+
+    LuGroup();
+
+    /// Null is ignored.
+    void addChild(LuNode* child) { m_children.append(child); }
+
+    /// An index outside the list is moved to its nearer end.
+    void insertChild(LuNode* child, int index) { m_children.insert(child, index); }
+
+    /// Null for an index outside the list.
+    LuNode* getChild(int index) const { return m_children[index]; }
+    int getNumChildren() const { return m_children.getLength(); }
+    int findChild(const LuNode* child) const { return m_children.find(child); }
+
+    /// Nothing happens for an index outside the list, or a node that is no child.
+    void removeChild(int index) { m_children.remove(index); }
+    void removeChild(const LuNode* child) { m_children.remove(m_children.find(child)); }
+    void removeAllChildren() { m_children.truncate(0); }
+    void replaceChild(int index, LuNode* child) { m_children.set(index, child); }
+    void replaceChild(const LuNode* child, LuNode* newChild) { replaceChild(findChild(child), newChild); }
+
+    LuChildList* getChildren() const override { return const_cast<LuChildList*>(&m_children); }
+    bool affectsState() const override;
+    void doAction(LuAction* action) override;
+    void search(LuSearchAction* action) override;
+    void write(LuWriteAction* action) override;
+    bool readInstance(LuInput* in, unsigned short flags) override;
+    void addWriteReference(LuOutput* out, bool isFromField = false) override;
+    bool shouldWrite() override;
+
+protected:
+    /// Reads the children that follow the fields. `flags` as for readInstance.
+    virtual bool readChildren(LuInput* in);
+
+private:
+    LuChildList m_children;
+};
+
+/// A group whose children set nothing beyond it. It keeps its bounding box until something below changes.
+class LuSeparator : public LuGroup {
+    LU_NODE_HEADER(LuSeparator)
+
+    LuSeparator();
+
+    bool affectsState() const override { return false; }
+    void doAction(LuAction* action) override;
+    void getBoundingBox(LuGetBoundingBoxAction* action) override;
+
+protected:
+    void invalidateCaches() override { m_boxCache.invalidate(); }
+
+private:
+    LuBoundingBoxCache m_boxCache;
+};
+
+/// A group that shows one child, all, or none.
+class LuSwitch : public LuGroup {
+    LU_NODE_HEADER(LuSwitch)
+
+    static constexpr int NONE = -1;
+    static constexpr int ALL = -3;
+
+    LuSwitch();
+
+    LuSFInt32 whichChild{NONE}; ///< Index of the child shown, NONE or ALL.
+
+    void doAction(LuAction* action) override;
+    void search(LuSearchAction* action) override;
+};

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/lumora/base/LvThread.h"
+#include "platform/lumora/fields/LuFields.h"
+
+class LuAction;
+class LuChildList;
+class LuGetBoundingBoxAction;
+class LuGetMatrixAction;
+class LuSearchAction;
+class LuWriteAction;
+
+/// A node of the scene graph.
+///
+/// Actions traverse the graph by calling the operation of their own on each node; a node that does the same
+/// in all of them overrides doAction, to which the others lead.
+class LuNode : public LuFieldContainer {
+public:
+    static LuType getClassTypeId();
+    static void initClass();
+
+    /// The node's children; null for a node that can't have any.
+    virtual LuChildList* getChildren() const { return nullptr; }
+
+    /// True when what the node sets reaches the nodes that come after it.
+    virtual bool affectsState() const { return true; }
+
+    virtual void doAction(LuAction*) {}
+    virtual void getBoundingBox(LuGetBoundingBoxAction* action);
+    virtual void getMatrix(LuGetMatrixAction* action);
+    virtual void search(LuSearchAction* action);
+    virtual void write(LuWriteAction* action);
+
+    /// True when both trees have the same types, names, field values and children.
+    bool isEqual(const LuNode& other) const;
+
+    /// The first node of a DEF name, or null.
+    static LuNode* getByName(LvName name);
+
+    /// The index that the next class to be registered gets.
+    static int getNextActionMethodIndex();
+    static void incNextActionMethodIndex();
+
+protected:
+    LuNode() = default;
+};
+
+/// What a class of nodes has once, whatever its number of instances.
+struct LuNodeClass {
+    LuType classTypeId;
+    const LuFieldData** parentFieldData = nullptr;
+    const LuFieldData* fieldData = nullptr;
+    bool firstInstance = true;
+};
+
+/// Registers a node's fields from its constructor: the rows of the class's table on the first instance, the
+/// container of each field on every one. Notification is off while it lives.
+class LuNodeConstructor {
+public:
+    LuNodeConstructor(LuNodeClass& nodeClass, LuFieldContainer* container);
+    ~LuNodeConstructor();
+    LuNodeConstructor(const LuNodeConstructor&) = delete;
+    LuNodeConstructor& operator=(const LuNodeConstructor&) = delete;
+
+    /// Adds a field; its default is the value it was constructed with.
+    void field(const char* name, LuField& field);
+
+    /// Adds an enum field with the names of its type.
+    void enumField(const char* name, LuSFEnum& field, const char* typeName,
+                   std::initializer_list<std::pair<const char*, int>> values);
+
+private:
+    LuNodeClass& m_class;
+    LuFieldContainer* m_container;
+    bool m_wasNotifyEnabled;
+};
+
+/// Declares what each class of nodes has. The source file says LU_NODE_SOURCE and adds the fields in the
+/// constructor by a LuNodeConstructor.
+#define LU_NODE_HEADER(Class)                                                                                \
+public:                                                                                                      \
+    static void initClass();                                                                                 \
+    static LuType getClassTypeId() { return s_class.classTypeId; }                                           \
+    static const LuFieldData** getFieldDataPtr() { return &s_class.fieldData; }                              \
+    static LuTypedObject* createInstance() { return new Class; }                                             \
+    LuType getTypeId() const override { return s_class.classTypeId; }                                        \
+    const LuFieldData* getFieldData() const override { return s_class.fieldData; }                           \
+                                                                                                             \
+private:                                                                                                     \
+    static LuNodeClass s_class;                                                                              \
+                                                                                                             \
+public:
+
+/// Defines it: the class, its direct base and the type name.
+#define LU_NODE_SOURCE(Class, Parent, typeName)                                                              \
+    LuNodeClass Class::s_class;                                                                              \
+    void Class::initClass() {                                                                                \
+        luInitNodeClass(s_class, Parent::getClassTypeId(), Parent::getFieldDataPtr(), typeName,              \
+                        &Class::createInstance);                                                             \
+    }
+
+/// What LU_NODE_SOURCE's initClass does.
+void luInitNodeClass(LuNodeClass& nodeClass, LuType parent, const LuFieldData** parentFieldData,
+                     const char* typeName, LuType::CreateMethod create);

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/lumora/nodes/LuNode.h"
+
+class LuTraversalState;
+
+/// A node with geometry.
+class LuShape : public LuNode {
+public:
+    static void initClass();
+    static LuType getClassTypeId() { return s_class.classTypeId; }
+    static const LuFieldData** getFieldDataPtr() { return &s_class.fieldData; }
+
+    bool affectsState() const override { return false; }
+    void getBoundingBox(LuGetBoundingBoxAction* action) override;
+
+    /// The shape's exact box in its own space, with what `state` gives it; empty when there is nothing.
+    virtual void computeBBox(const LuTraversalState& state, LvBox3f& box) const = 0;
+
+protected:
+    LuShape() = default;
+
+    /// True when the box depends on what nodes before the shape have set.
+    virtual bool usesInheritedState() const { return false; }
+
+private:
+    static LuNodeClass s_class;
+};
+
+/// A box about the origin.
+class LuCube : public LuShape {
+    LU_NODE_HEADER(LuCube)
+    LuCube();
+    LuSFFloat width{2.0F};
+    LuSFFloat height{2.0F};
+    LuSFFloat depth{2.0F};
+    void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+};
+
+/// A ball about the origin.
+class LuSphere : public LuShape {
+    LU_NODE_HEADER(LuSphere)
+    LuSphere();
+    LuSFFloat radius{1.0F};
+    void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+};
+
+/// A cone about the origin, its tip up in y.
+class LuCone : public LuShape {
+    LU_NODE_HEADER(LuCone)
+    LuCone();
+    LuSFFloat bottomRadius{1.0F};
+    LuSFFloat height{2.0F};
+    void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+};
+
+/// Polygons of consecutive points of the current LuCoordinate3.
+class LuFaceSet : public LuShape {
+    LU_NODE_HEADER(LuFaceSet)
+    LuFaceSet();
+    LuSFInt32 startIndex{0}; ///< The first point.
+    LuMFInt32 numVertices;   ///< Points of each polygon; -1 takes all that are left.
+    void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+
+protected:
+    bool usesInheritedState() const override { return true; }
+};
+
+/// Polygons of points of the current LuCoordinate3, by index, each ended by -1. Indices that name no point
+/// are left out.
+class LuIndexedFaceSet : public LuShape {
+    LU_NODE_HEADER(LuIndexedFaceSet)
+    LuIndexedFaceSet();
+    LuMFInt32 coordIndex;
+    void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+
+protected:
+    bool usesInheritedState() const override { return true; }
+};

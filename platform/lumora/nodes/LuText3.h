@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/lumora/nodes/LuShapes.h"
+
+/// Text made of the outlines of the current font's glyphs. The first line stands on y 0, each further line
+/// one font size, times `spacing`, below.
+class LuText3 : public LuShape {
+    LU_NODE_HEADER(LuText3)
+
+    enum Part { FRONT = 1, SIDES = 2, BACK = 4, ALL = 7 };
+    enum Justification { LEFT = 1, RIGHT = 2, CENTER = 3 };
+
+    LuText3();
+
+    LuMFString string; ///< One entry a line, UTF-8.
+    LuSFFloat spacing{1.0F};
+    LuSFEnum parts{FRONT};        ///< FRONT lies at z 0; SIDES and BACK reach to z -1.
+    LuSFEnum justification{LEFT}; ///< Which point of each line stands at x 0.
+
+    void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+
+    /// The advance of one line in scene units.
+    static float getLineWidth(const LuTraversalState& state, const LvString& line);
+
+protected:
+    bool usesInheritedState() const override { return true; }
+
+    /// Called with each line before it is measured or drawn; a subclass may show something else instead.
+    virtual LvString getShownLine(int index) const { return string[index]; }
+
+private:
+    LvBox3f computeLineBox(const LuTraversalState& state, int index) const;
+};
