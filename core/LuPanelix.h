@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/LuSkin.h"
+#include "platform/lumora/actions/LuGetBoundingBoxAction.h"
+#include "platform/lumora/actions/LuGetMatrixAction.h"
+#include "platform/lumora/actions/LuSearchAction.h"
+#include "platform/lumora/base/LvPList.h"
+#include "platform/lumora/kits/LuDragger.h"
+#include "platform/lumora/sensors/LuSensor.h"
+#include "platform/win32/WindowSystem.h"
+
+class LuAuditor;
+class LuGroup;
+class LuMaterial;
+class LuPickStyle;
+class LuText3;
+class LuTransform;
+class LuTranslation;
+
+/// The root of all components, and the module.
+///
+/// A component is a node of the scene graph that can show itself in two renditions: as native windows, and as
+/// 3D geometry. Either, or both at once, follow the same fields:
+///
+/// | field            | windows                        | 3D                                          |
+/// |------------------|--------------------------------|---------------------------------------------|
+/// | `enable`         | the windows take input or not  | can be picked or not; grey when it can't    |
+/// | `label`          | the text of the label          | the same                                    |
+/// | `auditorID`      | how a program finds the component: no visible effect                         |
+/// | `labelAlignment` | LEFT, CENTER, RIGHT            | the same                                    |
+///
+/// Sizes are in pixels, which are scene units in 3D; y points down in windows and up in 3D. Components are
+/// owned by references; `m_parent` is a plain pointer. Everything is for the one thread that owns the windows
+/// and traverses the scene.
+class LuPanelix : public LuDragger {
+    LU_KIT_HEADER(LuPanelix)
+
+    enum LabelAlignment { LEFT = 0, CENTER = 1, RIGHT = 2 };
+
+    LuPanelix();
+
+    LuSFBool enable{true};
+    LuSFString label;
+    LuSFString auditorID;
+    LuSFEnum labelAlignment{RIGHT};
+
+    /// Starts the library: the toolkit, all classes. Calls are counted.
+    static void init();
+
+    /// Undoes one init; the last one empties the cache of files and removes the classes.
+    static void finish();
+    static bool isInitialized();
+    static const char* getVersion();
+    static const char* getProductName() { return "Panelix"; }
+
+    /// Reads a dialog file and gives its first component at the top of the file that has the id; with an
+    /// empty id the first of all. A second call for the same file gives the same objects, without reading
+    /// again. The caller gets one reference. Null, with a message, when the file can't be read or holds no
+    /// such component.
+    static LuPanelix* loadFromFile(LvString file, LvString auditorID);
+
+    /// The directories that hold skins, separated by ";".
+    static int setSkinsDirectory(LvString directory);
+    static LvString getSkinsDirectory();
+    static void setSkinsDirectories(LvString directories);
+    static LvString getSkinsDirectories();
+
+    /// Takes the skin in a directory: the name itself, then in the working directory, then in the skins
+    /// directories. Live components change at once. A name that leads nowhere changes nothing.
+    static void setSkin(LvString name);
+
+    /// The steps of a change of skin, for one group by its DEF name: the old group loses its children; the
+    /// group read since then gives it its own.
+    static void free3DSkin(LvString part);
+    static void load3DSkin(LvString part);
+
+    /// Reads the skin files of all classes again.
+    static void change3DSkin();
+    static int isSkinLoaded() { return s_skin.isLoaded(); }
+    static void setSkinLoaded(int isLoaded) { s_skin.setLoaded(isLoaded); }
+
+    /// The look of texts that is used when no skin file gives another.
+    static const char* TextProperties;
+
+    /// The font of all windows, the system's at the start. Set it before the build; it stays the caller's.
+    static void setFont(HFONT font);
+    static HFONT getPanelixFont();
+    static void setWidgetFont(HWND window);
+
+    /// The pixels that a label needs, 3 more than its text on both axes. An empty one needs none.
+    static LvVec2i32 getLabelPixelSize(LvString text, LuPanelix* component);
+
+    /// The top-level dialog above this component; or with `acceptGroup` the topmost group when there is none.
+    /// Components whose parents don't show them in 3D count as topmost unless `ignoreTraversal`. May be null.
+    LuPanelix* getFirstTopParent(int ignoreTraversal, int acceptGroup);
+
+    /// The component above. It is not referenced.
+    void setParent(LuPanelix* parent) { m_parent = parent; }
+    LuPanelix* getParent() const { return m_parent; }
+
+    int isBuilt3D() const { return m_built3D; }
+    void setBuilt3D(int isBuilt) { m_built3D = isBuilt; }
+    int isBuilt2D() const { return m_built2D; }
+
+    /// Whether the 3D rendition is placed and traversed by the parent, rather than a part of it alone.
+    int canBeTraversed() const { return m_canBeTraversed; }
+    void setCanBeTraversed(int canBeTraversed) { m_canBeTraversed = canBeTraversed; }
+
+    void apply3DParentTranslation();
+    LvVec3f get3DParentTranslation() const { return m_parentTranslation; }
+
+    /// Builds a rendition, or brings it up to date: windows below `parent` when `is2D`, else 3D geometry.
+    /// `size` asks for a size in pixels, 0 on an axis asks for nothing; `position` is the top-left corner in
+    /// the parent.
+    virtual void buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& position, int is2D);
+
+    /// Ends the windows.
+    virtual void destroyWidget() { m_built2D = 0; }
+
+    /// A field has changed: calls the change operation of each rendition that exists, windows first.
+    virtual void updateFromSensor(LuSensor* sensor);
+
+    /// Takes an event of a component below and brings it to the auditors here, or hands it up.
+    virtual void applyAuditor(LuPanelix*) {}
+    virtual void resetSize() {}
+    virtual void changeEnable() {}
+    virtual void changeLabel() {}
+    virtual void changeLabelAlignment() {}
+    virtual void show3D(int show);
+    virtual void set3DParentTranslation(LvVec3f& translation);
+    virtual void change3DPosition() {}
+    virtual void change3DWidgetEnable(int enable);
+    virtual void change3DEnable();
+    virtual void change3DLabel();
+    virtual void change3DLabelAlignment() {}
+    virtual void set3DInactive();
+
+    /// What kind of component this is, for the code below that may not know the classes above it.
+    virtual bool isTopLevelDialog() const { return false; }
+    virtual bool isDialogGroup() const { return false; }
+
+    /// How convertToCString treats this component's texts: what a line feed becomes; whether escapes stay.
+    virtual const char* getLineEnd() const { return "\n"; }
+    virtual bool keepsEscapes() const { return false; }
+
+    /// Whether a label of several lines is measured as one.
+    virtual bool isSingleLine() const { return false; }
+
+    /// Turns the escapes of a text field (backslash n, t, quote) into what the screen shows. `component` may
+    /// be null.
+    static LvString convertToCString(const LvString& text, const LuPanelix* component);
+
+    /// Gives the empty text.
+    static LvString convertFromCString(const LvString& text, int flag);
+
+    /// Makes `component` the one that takes keys and drags in 3D; the one before is told. May be null.
+    static void set3DCurrentActive(LuPanelix* component);
+    static LuPanelix* get3DCurrentActive() { return m_lastActive; }
+
+protected:
+    ~LuPanelix() override;
+
+    void addAuditor(LuAuditor* auditor);
+    void removeAuditor(LuAuditor* auditor);
+    LuAuditor*& getAuditor(int index);
+    int getAuditorListLength() const;
+
+    static int existWidget(HWND window) { return IsWindow(window) ? 1 : 0; }
+
+    /// The callback of all sensors of all components; `data` is the component.
+    static void fieldChangedCB(void* data, LuSensor* sensor);
+
+    /// Makes a sensor that fires at once and attaches it to its field, each unless it is done.
+    void attachSensor(LuFieldSensor*& sensor, LuField& field);
+
+    /// Writes a field without waking its own sensor, which may be null.
+    template <class Field, class Value>
+    static void setWithoutSensor(Field& field, const Value& value, LuFieldSensor* sensor) {
+        if (sensor)
+            sensor->detach();
+        field.setValue(value);
+        if (sensor)
+            sensor->attach(&field);
+    }
+
+    /// Adds the depth of what hangs below `node`, and the parent's offset, to `translation`. `depth` -1 means
+    /// that it has not been measured yet.
+    void apply3DTranslation(LuNode* node, float& depth, LvVec3f& translation);
+    float compute3DDepth(LuNode* node);
+
+    /// Fills `transform` with the translation and rotation that `node` accumulates up to its last node.
+    void undoTransformMatrix(LuNode* node, LuTransform* transform);
+
+    bool isLabelCachedBBox() const;
+    const LvBox3f& getLabelCachedBBox() const { return m_labelBBox; }
+    void setLabelCacheBBox(const LvBox3f& box) { m_labelBBox = box; }
+
+    /// The box of a text behind a group of text properties, both of which may hang somewhere already. An
+    /// empty text has a box of size 0 at the origin.
+    LvBox3f measureText(LuNode* properties, LuText3* text);
+
+    /// The box of the label's text, measured when it is not known.
+    const LvBox3f& measureLabel(LuNode* properties, LuText3* text);
+
+    static LvBox3f getUnsetBox() { return {{-1, -1, -1}, {-1, -1, -1}}; }
+
+    /// Writes all that shows in 3D to a text file.
+    void writeNode(const char* fileName);
+
+    void destroy() override;
+
+    /// Ends the cache entry of the file that holds `component` at its top.
+    static void destroyByRef(LuPanelix* component);
+
+    /// Reads a skin file from the skins directories, with the application's own search path kept; null when
+    /// there is none.
+    static LuGroup* readFromFile(const LvString& file);
+
+    /// Reads a skin file, or `text` with a message when there is none.
+    static void readDefaultSkinsParts(const LvString& file, const char* text);
+    friend class LuSkin;
+
+    void loadFontProperties() { s_skin.loadOnFirstUse(); }
+    static int getNumLines(const LvString& text);
+    static void setStringToText3(LuText3* target, const LvString& text);
+    static int insertTextTo3DText(LvString text, LuText3* target, int line, int column);
+    static int wrap3DTextLine(LuText3* target, int line, float maxWidth, LuGroup* properties,
+                              LuPanelix* component);
+
+    LuSFNode geomSwitch;
+
+    int m_built2D = 0;
+    int m_visible3D = 1;
+    int m_built3D = 0;
+    int m_canBeTraversed = 1;
+    HWND m_parentWidget = nullptr;
+    LuPanelix* m_parent = nullptr;
+    LvPList* m_auditors = nullptr;
+    LuFieldSensor* m_enableSensor = nullptr;
+    LuFieldSensor* m_labelSensor = nullptr;
+    LuFieldSensor* m_labelAlignmentSensor = nullptr;
+    LuGetBoundingBoxAction* m_bboxAction = nullptr;
+    LuSearchAction* m_searchAction = nullptr;
+    LuGetMatrixAction* m_matrixAction = nullptr;
+    LuPickStyle* m_pickStyle = nullptr;
+    LuMaterial* m_material = nullptr;
+    LuTranslation* m_parentTranslationNode = nullptr;
+    LvVec3f m_parentTranslation;
+    LvBox3f m_labelBBox = getUnsetBox();
+
+private:
+    void create3DPanelix();
+    void setLook3D(int pickStyle, bool isEnabled);
+
+    static LuSkin s_skin;
+    static int s_initRefCount;
+    static LvPList* s_listData;
+    static LuPanelix* m_lastActive;
+    static LvString s_skinsPath;
+};
