@@ -36,6 +36,9 @@ public:
     LuTraversalState& getState() { return m_state; }
     const LuTraversalState& getState() const { return m_state; }
 
+    /// How many separators with a cache stand above the current node; 0 for an action that keeps no caches.
+    virtual int getSeparatorDepth() const { return 0; }
+
     /// Goes on with a child of the current node.
     void traverseChild(LuNode* child, int index);
 

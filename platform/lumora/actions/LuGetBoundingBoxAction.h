@@ -20,8 +20,7 @@ public:
     /// A shape says that its box depends on the inherited font or coordinates.
     void noteInheritedState();
 
-    /// The depth of separators that a node which sets a font or coordinates notes in the state.
-    int getSeparatorDepth() const { return m_separatorDepth; }
+    int getSeparatorDepth() const override { return m_separatorDepth; }
 
     /// Traverses a separator's content by `traverseContent`, or takes its box from the cache where that is
     /// possible. State and space are as before when it returns.

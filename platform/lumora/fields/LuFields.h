@@ -52,6 +52,9 @@ private:
 template <class T>
 class LuMFValue : public LuField {
 public:
+    LuMFValue() = default;
+    explicit LuMFValue(const T& value) : m_values{value} {}
+
     int getNum() const { return static_cast<int>(m_values.size()); }
     const T& operator[](int index) const { return m_values[static_cast<std::size_t>(index)]; }
     const std::vector<T>& getValues() const { return m_values; }

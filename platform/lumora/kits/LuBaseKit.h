@@ -13,8 +13,8 @@ class LuBaseKit : public LuNode {
 public:
     static void initClass();
     static LuType getClassTypeId();
-    static const LuFieldData** getFieldDataPtr();
-    static const LuNodekitCatalog** getClassNodekitCatalogPtr();
+    static LuFieldData** getFieldDataPtr();
+    static LuNodekitCatalog** getClassNodekitCatalogPtr();
 
     /// Whether a search goes into kits at all. Off at the start, as in applications that treat kits as
     /// leaves; the application switches it.
@@ -37,6 +37,7 @@ public:
     bool affectsState() const override { return false; }
     void doAction(LuAction* action) override;
     void getBoundingBox(LuGetBoundingBoxAction* action) override;
+    void getMatrix(LuGetMatrixAction* action) override;
     void search(LuSearchAction* action) override;
     void write(LuWriteAction* action) override;
     bool readInstance(LuInput* in, unsigned short flags) override;
@@ -44,12 +45,13 @@ public:
 protected:
     LuBaseKit() : m_children(this) {}
 
-    /// Called by each class's constructor once its parts are in the catalogue.
-    bool createNodekitPartsList();
+    friend class LuKitConstructor;
+
+    /// Makes the parts that are not null by default; called at the end of each class's constructor.
     void createDefaultParts();
 
     /// Reports an entry that the catalogue did not take.
-    void catalogError();
+    void catalogError(LvName part) const;
 
     LuSFNode* getPartField(int part) const;
 
@@ -87,8 +89,8 @@ private:
 
 /// What a class of kits has once, whatever its number of instances.
 struct LuKitClass : LuNodeClass {
-    const LuNodekitCatalog* nodekitCatalog = nullptr;
-    const LuNodekitCatalog** parentNodekitCatalogPtr = nullptr;
+    LuNodekitCatalog* nodekitCatalog = nullptr;
+    LuNodekitCatalog** parentNodekitCatalogPtr = nullptr;
     bool isBuiltIn = false;
     LvThreadMutex classMutex;
 };
@@ -97,6 +99,7 @@ struct LuKitClass : LuNodeClass {
 class LuKitConstructor {
 public:
     LuKitConstructor(LuKitClass& kitClass, LuBaseKit* kit, void (*initClass)());
+    ~LuKitConstructor();
     LuKitConstructor(const LuKitConstructor&) = delete;
     LuKitConstructor& operator=(const LuKitConstructor&) = delete;
 
@@ -133,9 +136,9 @@ public:                                                                         
     static LuType getClassTypeId() { return s_class.classTypeId; }                                           \
     LuType getTypeId() const override { return s_class.classTypeId; }                                        \
     const LuFieldData* getFieldData() const override { return luGetFieldData(s_class); }                     \
-    static const LuFieldData** getFieldDataPtr() { return &s_class.fieldData; }                              \
+    static LuFieldData** getFieldDataPtr() { return &s_class.fieldData; }                                    \
     static const LuNodekitCatalog* getClassNodekitCatalog() { return s_class.nodekitCatalog; }               \
-    static const LuNodekitCatalog** getClassNodekitCatalogPtr() { return &s_class.nodekitCatalog; }          \
+    static LuNodekitCatalog** getClassNodekitCatalogPtr() { return &s_class.nodekitCatalog; }                \
     const LuNodekitCatalog* getNodekitCatalog() const override { return s_class.nodekitCatalog; }            \
                                                                                                              \
 private:                                                                                                     \
@@ -158,8 +161,7 @@ public:
     void Class::exitClass() { luExitKitClass(s_class); }
 
 /// What the macros' operations do.
-void luInitKitClass(LuKitClass& kitClass, LuType parent, const LuFieldData** parentFieldData,
-                    const LuNodekitCatalog** parentCatalog, const char* typeName,
-                    LuType::CreateMethod create);
+void luInitKitClass(LuKitClass& kitClass, LuType parent, LuFieldData** parentFieldData,
+                    LuNodekitCatalog** parentCatalog, const char* typeName, LuType::CreateMethod create);
 void luExitKitClass(LuKitClass& kitClass);
-const LuFieldData* luGetFieldData(LuKitClass& kitClass);
+LuFieldData* luGetFieldData(LuKitClass& kitClass);

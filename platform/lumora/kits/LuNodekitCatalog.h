@@ -43,6 +43,10 @@ public:
     bool isPublic(int part) const { return getPart(part).isPublic; }
     const LuNodekitPart& getPart(int part) const { return m_parts[static_cast<std::size_t>(part)]; }
 
+    /// True when a kit makes some of its parts itself, in its constructor.
+    bool hasDefaultParts() const { return m_hasDefaultParts; }
+
 private:
     std::vector<LuNodekitPart> m_parts;
+    bool m_hasDefaultParts = false;
 };

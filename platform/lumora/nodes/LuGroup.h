@@ -32,6 +32,7 @@ class LuGroup : public LuNode {
     LuChildList* getChildren() const override { return const_cast<LuChildList*>(&m_children); }
     bool affectsState() const override;
     void doAction(LuAction* action) override;
+    void getMatrix(LuGetMatrixAction* action) override;
     void search(LuSearchAction* action) override;
     void write(LuWriteAction* action) override;
     bool readInstance(LuInput* in, unsigned short flags) override;
@@ -67,12 +68,12 @@ private:
 class LuSwitch : public LuGroup {
     LU_NODE_HEADER(LuSwitch)
 
-    static constexpr int NONE = -1;
-    static constexpr int ALL = -3;
+    static constexpr int SHOW_NONE = -1;
+    static constexpr int SHOW_ALL = -3;
 
     LuSwitch();
 
-    LuSFInt32 whichChild{NONE}; ///< Index of the child shown, NONE or ALL.
+    LuSFInt32 whichChild{SHOW_NONE}; ///< Index of the child shown, SHOW_NONE or SHOW_ALL.
 
     void doAction(LuAction* action) override;
     void search(LuSearchAction* action) override;

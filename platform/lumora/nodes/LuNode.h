@@ -19,6 +19,7 @@ class LuNode : public LuFieldContainer {
 public:
     static LuType getClassTypeId();
     static void initClass();
+    static LuFieldData** getFieldDataPtr();
 
     /// The node's children; null for a node that can't have any.
     virtual LuChildList* getChildren() const { return nullptr; }
@@ -49,8 +50,8 @@ protected:
 /// What a class of nodes has once, whatever its number of instances.
 struct LuNodeClass {
     LuType classTypeId;
-    const LuFieldData** parentFieldData = nullptr;
-    const LuFieldData* fieldData = nullptr;
+    LuFieldData** parentFieldData = nullptr;
+    LuFieldData* fieldData = nullptr;
     bool firstInstance = true;
 };
 
@@ -82,7 +83,7 @@ private:
 public:                                                                                                      \
     static void initClass();                                                                                 \
     static LuType getClassTypeId() { return s_class.classTypeId; }                                           \
-    static const LuFieldData** getFieldDataPtr() { return &s_class.fieldData; }                              \
+    static LuFieldData** getFieldDataPtr() { return &s_class.fieldData; }                                    \
     static LuTypedObject* createInstance() { return new Class; }                                             \
     LuType getTypeId() const override { return s_class.classTypeId; }                                        \
     const LuFieldData* getFieldData() const override { return s_class.fieldData; }                           \
@@ -101,5 +102,5 @@ public:
     }
 
 /// What LU_NODE_SOURCE's initClass does.
-void luInitNodeClass(LuNodeClass& nodeClass, LuType parent, const LuFieldData** parentFieldData,
+void luInitNodeClass(LuNodeClass& nodeClass, LuType parent, LuFieldData** parentFieldData,
                      const char* typeName, LuType::CreateMethod create);

@@ -4,13 +4,14 @@
 #include "platform/lumora/nodes/LuNode.h"
 
 class LuTraversalState;
+class LvBox3f;
 
 /// A node with geometry.
 class LuShape : public LuNode {
 public:
     static void initClass();
     static LuType getClassTypeId() { return s_class.classTypeId; }
-    static const LuFieldData** getFieldDataPtr() { return &s_class.fieldData; }
+    static LuFieldData** getFieldDataPtr() { return &s_class.fieldData; }
 
     bool affectsState() const override { return false; }
     void getBoundingBox(LuGetBoundingBoxAction* action) override;

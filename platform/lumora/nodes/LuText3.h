@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/lumora/base/LvBox3f.h"
 #include "platform/lumora/nodes/LuShapes.h"
 
 /// Text made of the outlines of the current font's glyphs. The first line stands on y 0, each further line

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "platform/lumora/kits/LuBaseKit.h"
+
+#include "platform/lumora/actions/LuGetBoundingBoxAction.h"
+#include "platform/lumora/actions/LuGetMatrixAction.h"
+#include "platform/lumora/actions/LuSearchAction.h"
+#include "platform/lumora/base/LuDebugError.h"
+
+bool LuBaseKit::searchingChildren = false;
+
+namespace {
+
+LuFieldData* s_noFieldData = nullptr;
+LuNodekitCatalog* s_noCatalog = nullptr;
+
+} // namespace
+
+LuType LuBaseKit::getClassTypeId() {
+    static const LuType s_type =
+        LuType::createType(LuNode::getClassTypeId(), "BaseKit", nullptr, LuNode::getNextActionMethodIndex());
+    return s_type;
+}
+
+void LuBaseKit::initClass() { getClassTypeId(); }
+
+LuFieldData** LuBaseKit::getFieldDataPtr() { return &s_noFieldData; }
+
+LuNodekitCatalog** LuBaseKit::getClassNodekitCatalogPtr() { return &s_noCatalog; }
+
+LuSFNode* LuBaseKit::getPartField(int part) const {
+    if (part <= LuNodekitCatalog::THIS_PART)
+        return nullptr;
+    const char* start = reinterpret_cast<const char*>(static_cast<const LuFieldContainer*>(this));
+    const char* field = start + getNodekitCatalog()->getPart(part).fieldOffset;
+    return reinterpret_cast<LuSFNode*>(const_cast<char*>(field));
+}
+
+LuNode* LuBaseKit::getPart(LvName part, bool makeIfNeeded) {
+    const int number = getNodekitCatalog()->getPartNumber(part);
+    if (number == LuNodekitCatalog::THIS_PART)
+        return this;
+    if (number < 0)
+        return nullptr;
+    return makeIfNeeded ? makePart(number) : getPartField(number)->getValue();
+}
+
+LuNode* LuBaseKit::makePart(int part) {
+    LuSFNode* field = getPartField(part);
+    if (!field->getValue()) {
+        auto* node = static_cast<LuNode*>(getNodekitCatalog()->getPart(part).defaultType.createInstance());
+        setPartByNumber(part, node, true);
+    }
+    return field->getValue();
+}
+
+bool LuBaseKit::setPart(LvName part, LuNode* node) {
+    const int number = getNodekitCatalog()->getPartNumber(part);
+    if (number <= LuNodekitCatalog::THIS_PART) {
+        LuDebugError::post("LuBaseKit::setPart", "%s has no part named \"%s\".",
+                           getTypeId().getName().getString(), part.getString());
+        return false;
+    }
+    return setPartByNumber(number, node, false);
+}
+
+LuChildList* LuBaseKit::getParentList(int part) {
+    const int parent = getNodekitCatalog()->getPartNumber(getNodekitCatalog()->getPart(part).parent);
+    return parent == LuNodekitCatalog::THIS_PART ? &m_children : makePart(parent)->getChildren();
+}
+
+int LuBaseKit::getInsertIndex(int part, const LuChildList& siblings) const {
+    const LuNodekitCatalog& catalog = *getNodekitCatalog();
+    int sibling = catalog.getPartNumber(catalog.getPart(part).rightSibling);
+    while (sibling > LuNodekitCatalog::THIS_PART) {
+        if (const LuNode* node = getPartField(sibling)->getValue())
+            return siblings.find(node);
+        sibling = catalog.getPartNumber(catalog.getPart(sibling).rightSibling);
+    }
+    return siblings.getLength();
+}
+
+bool LuBaseKit::setPartByNumber(int part, LuNode* node, bool isDefault) {
+    const LuNodekitPart& row = getNodekitCatalog()->getPart(part);
+    if (node && !node->isOfType(row.type)) {
+        LuDebugError::post("LuBaseKit::setPart", "Part \"%s\" of %s takes a %s, not a %s.",
+                           row.name.getString(), getTypeId().getName().getString(),
+                           row.type.getName().getString(), node->getTypeId().getName().getString());
+        return false;
+    }
+    LuSFNode* const field = getPartField(part);
+    LuNode* const before = field->getValue();
+    LuChildList* const siblings = node || before ? getParentList(part) : nullptr;
+    if (siblings) {
+        const int index = before ? siblings->find(before) : -1;
+        if (node && index >= 0)
+            siblings->set(index, node);
+        else if (node)
+            siblings->insert(node, getInsertIndex(part, *siblings));
+        else
+            siblings->remove(index);
+    }
+    field->setValue(node);
+    field->setDefault(isDefault);
+    return true;
+}
+
+LvName LuBaseKit::getPartString(const LuNode* node) const {
+    const LuNodekitCatalog& catalog = *getNodekitCatalog();
+    for (int i = 1; node && i < catalog.getNumEntries(); ++i) {
+        if (getPartField(i)->getValue() == node)
+            return catalog.getName(i);
+    }
+    return {};
+}
+
+void LuBaseKit::createDefaultParts() {
+    const LuNodekitCatalog& catalog = *getNodekitCatalog();
+    for (int i = 1; i < catalog.getNumEntries(); ++i) {
+        if (!catalog.getPart(i).nullByDefault)
+            makePart(i);
+    }
+}
+
+void LuBaseKit::catalogError(LvName part) const {
+    LuDebugError::post("LuBaseKit::catalogError", "Part \"%s\" could not be added to the catalogue of %s.",
+                       part.getString(), getTypeId().getName().getString());
+}
+
+void LuBaseKit::doAction(LuAction* action) { m_children.traverse(action); }
+
+void LuBaseKit::getBoundingBox(LuGetBoundingBoxAction* action) {
+    // A single part is a separator and keeps the box itself.
+    if (m_children.getLength() > 1)
+        action->traverseCached(m_boxCache, [&] { LuBaseKit::doAction(action); });
+    else
+        doAction(action);
+}
+
+void LuBaseKit::getMatrix(LuGetMatrixAction* action) {
+    if (action->getPathCode() == LuAction::PathCode::IN_PATH)
+        doAction(action);
+}
+
+void LuBaseKit::search(LuSearchAction* action) {
+    LuNode::search(action);
+    if (searchingChildren && !action->hasTerminated())
+        doAction(action);
+}
+
+void LuBaseKit::internalAddChild(LuNode* child) { m_children.append(child); }
+int LuBaseKit::internalFindChild(const LuNode* child) const { return m_children.find(child); }
+void LuBaseKit::internalInsertChild(LuNode* child, int index) { m_children.insert(child, index); }
+LuNode* LuBaseKit::internalGetChild(int index) const { return m_children[index]; }
+void LuBaseKit::internalRemoveChild(LuNode* child) { m_children.remove(m_children.find(child)); }
+void LuBaseKit::internalRemoveChild(int index) { m_children.remove(index); }
+void LuBaseKit::internalRemoveAllChildren() { m_children.truncate(0); }
+void LuBaseKit::internalReplaceChild(LuNode* child, LuNode* newChild) {
+    m_children.set(m_children.find(child), newChild);
+}
+void LuBaseKit::internalReplaceChild(int index, LuNode* newChild) { m_children.set(index, newChild); }

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "platform/lumora/nodes/LuChildList.h"
+
+#include "platform/lumora/actions/LuAction.h"
+#include "platform/lumora/nodes/LuNode.h"
+
+#include <algorithm>
+
+LuChildList::~LuChildList() {
+    for (LuNode* child : m_children)
+        disconnect(child);
+}
+
+LuNode* LuChildList::operator[](int index) const {
+    return index >= 0 && index < getLength() ? m_children[static_cast<std::size_t>(index)] : nullptr;
+}
+
+int LuChildList::find(const LuNode* child) const {
+    const auto found = std::find(m_children.begin(), m_children.end(), child);
+    return found == m_children.end() ? -1 : static_cast<int>(found - m_children.begin());
+}
+
+void LuChildList::connect(LuNode* child) {
+    child->ref();
+    child->addObserver(LuObserver(static_cast<LuBase*>(m_owner)));
+}
+
+void LuChildList::disconnect(LuNode* child) {
+    child->removeObserver(LuObserver(static_cast<LuBase*>(m_owner)));
+    child->unref();
+}
+
+void LuChildList::insert(LuNode* child, int index) {
+    if (!child)
+        return;
+    connect(child);
+    m_children.insert(m_children.begin() + std::clamp(index, 0, getLength()), child);
+    m_owner->startNotify();
+}
+
+void LuChildList::set(int index, LuNode* child) {
+    if (!child || index < 0 || index >= getLength())
+        return;
+    connect(child);
+    LuNode* const before = std::exchange(m_children[static_cast<std::size_t>(index)], child);
+    disconnect(before);
+    m_owner->startNotify();
+}
+
+void LuChildList::remove(int index) {
+    if (index < 0 || index >= getLength())
+        return;
+    LuNode* const child = m_children[static_cast<std::size_t>(index)];
+    m_children.erase(m_children.begin() + index);
+    disconnect(child);
+    m_owner->startNotify();
+}
+
+void LuChildList::truncate(int length) {
+    if (length < 0 || length >= getLength())
+        return;
+    while (getLength() > length) {
+        LuNode* const child = m_children.back();
+        m_children.pop_back();
+        disconnect(child);
+    }
+    m_owner->startNotify();
+}
+
+void LuChildList::traverse(LuAction* action, int first, int last) const {
+    // A traversal may build what it meets, so the length is read anew each time.
+    for (int i = first; i <= last && i < getLength() && !action->hasTerminated(); ++i)
+        action->traverseChild(m_children[static_cast<std::size_t>(i)], i);
+}

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "platform/lumora/nodes/LuNode.h"
+
+#include "platform/lumora/actions/LuGetBoundingBoxAction.h"
+#include "platform/lumora/actions/LuGetMatrixAction.h"
+#include "platform/lumora/actions/LuSearchAction.h"
+#include "platform/lumora/nodes/LuChildList.h"
+
+namespace {
+
+int s_nextActionMethodIndex = 0;
+
+} // namespace
+
+LuType LuNode::getClassTypeId() {
+    static const LuType s_type =
+        LuType::createType(LuFieldContainer::getClassTypeId(), "Node", nullptr, getNextActionMethodIndex());
+    return s_type;
+}
+
+void LuNode::initClass() { getClassTypeId(); }
+
+LuFieldData** LuNode::getFieldDataPtr() {
+    static LuFieldData* s_none = nullptr;
+    return &s_none;
+}
+
+void LuNode::getBoundingBox(LuGetBoundingBoxAction* action) { doAction(action); }
+
+void LuNode::getMatrix(LuGetMatrixAction* action) { doAction(action); }
+
+void LuNode::search(LuSearchAction* action) { action->consider(this); }
+
+bool LuNode::isEqual(const LuNode& other) const {
+    if (this == &other)
+        return true;
+    if (getName() != other.getName() || !fieldsAreEqual(other))
+        return false;
+    const LuChildList* mine = getChildren();
+    const LuChildList* theirs = other.getChildren();
+    const int length = mine ? mine->getLength() : 0;
+    if (length != (theirs ? theirs->getLength() : 0))
+        return false;
+    for (int i = 0; i < length; ++i) {
+        if (!mine->get(i)->isEqual(*theirs->get(i)))
+            return false;
+    }
+    return true;
+}
+
+LuNode* LuNode::getByName(LvName name) {
+    for (LuBase* base : LuBase::getNamed(name)) {
+        if (base->isOfType(getClassTypeId()))
+            return static_cast<LuNode*>(base);
+    }
+    return nullptr;
+}
+
+int LuNode::getNextActionMethodIndex() { return s_nextActionMethodIndex; }
+
+void LuNode::incNextActionMethodIndex() { ++s_nextActionMethodIndex; }
+
+LuNodeConstructor::LuNodeConstructor(LuNodeClass& nodeClass, LuFieldContainer* container)
+    : m_class(nodeClass), m_container(container), m_wasNotifyEnabled(container->enableNotify(false)) {
+    if (!m_class.fieldData)
+        m_class.fieldData = new LuFieldData(m_class.parentFieldData ? *m_class.parentFieldData : nullptr);
+    else
+        m_class.firstInstance = false;
+}
+
+LuNodeConstructor::~LuNodeConstructor() { m_container->enableNotify(m_wasNotifyEnabled); }
+
+void LuNodeConstructor::field(const char* name, LuField& field) {
+    field.setContainer(m_container);
+    if (m_class.firstInstance)
+        m_class.fieldData->addField(m_container, name, &field);
+}
+
+void LuNodeConstructor::enumField(const char* name, LuSFEnum& enumField, const char* typeName,
+                                  std::initializer_list<std::pair<const char*, int>> values) {
+    field(name, enumField);
+    if (m_class.firstInstance) {
+        for (const auto& [valueName, value] : values)
+            m_class.fieldData->addEnumValue(typeName, valueName, value);
+    }
+    enumField.setEnums(m_class.fieldData->getEnumData(typeName));
+}
+
+void luInitNodeClass(LuNodeClass& nodeClass, LuType parent, LuFieldData** parentFieldData,
+                     const char* typeName, LuType::CreateMethod create) {
+    nodeClass.classTypeId = LuType::createType(parent, typeName, create, LuNode::getNextActionMethodIndex());
+    if (!nodeClass.parentFieldData)
+        LuNode::incNextActionMethodIndex();
+    nodeClass.parentFieldData = parentFieldData;
+}

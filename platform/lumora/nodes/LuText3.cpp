@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "platform/lumora/nodes/LuText3.h"
+
+#include "platform/fonts/LuFontFace.h"
+#include "platform/lumora/actions/LuTraversalState.h"
+#include "platform/lumora/base/LvBox3f.h"
+
+LU_NODE_SOURCE(LuText3, LuShape, "Text3")
+
+namespace {
+
+/// SIDES and BACK lie this far behind the front, in z.
+constexpr float TEXT_DEPTH = 1.0F;
+
+const LuFontFace& findFace(const LuTraversalState& state) { return *LuFontFace::find(state.fontName.view()); }
+
+} // namespace
+
+LuText3::LuText3() {
+    LuNodeConstructor constructor(s_class, this);
+    constructor.field("string", string);
+    constructor.field("spacing", spacing);
+    constructor.enumField("parts", parts, "Part",
+                          {{"FRONT", FRONT}, {"SIDES", SIDES}, {"BACK", BACK}, {"ALL", ALL}});
+    constructor.enumField("justification", justification, "Justification",
+                          {{"LEFT", LEFT}, {"RIGHT", RIGHT}, {"CENTER", CENTER}});
+}
+
+float LuText3::getLineWidth(const LuTraversalState& state, const LvString& line) {
+    const LuFontFace& face = findFace(state);
+    float width = 0;
+    for (std::size_t position = 0; position < line.view().size();)
+        width += face.getGlyphMetrics(LuUtf8::next(line.view(), position)).advance;
+    return width * state.fontSize;
+}
+
+LvBox3f LuText3::computeLineBox(const LuTraversalState& state, int index) const {
+    const LvString line = getShownLine(index);
+    const LuFontFace& face = findFace(state);
+    LvBox3f box;
+    float x = 0;
+    for (std::size_t position = 0; position < line.view().size();) {
+        const LuGlyphMetrics& glyph = face.getGlyphMetrics(LuUtf8::next(line.view(), position));
+        if (!glyph.isEmpty) {
+            box.extendBy(LvVec3f(x + glyph.minX, glyph.minY, 0));
+            box.extendBy(LvVec3f(x + glyph.maxX, glyph.maxY, 0));
+        }
+        x += glyph.advance;
+    }
+    if (box.isEmpty())
+        return box;
+    const float share = justification.getValue() == CENTER ? 0.5F : justification.getValue() == RIGHT ? 1 : 0;
+    const LvVec3f offset(-x * share, static_cast<float>(-index) * spacing.getValue(), 0);
+    return {(box.min + offset) * state.fontSize, (box.max + offset) * state.fontSize};
+}
+
+void LuText3::computeBBox(const LuTraversalState& state, LvBox3f& box) const {
+    box.makeEmpty();
+    for (int i = 0; i < string.getNum(); ++i)
+        box.extendBy(computeLineBox(state, i));
+    if (box.isEmpty())
+        return;
+    const int shown = parts.getValue();
+    box.min.z = (shown & (SIDES | BACK)) ? -TEXT_DEPTH : 0;
+    box.max.z = (shown & (FRONT | SIDES)) ? 0 : -TEXT_DEPTH;
+}
