@@ -26,6 +26,8 @@ else()
     target_link_libraries(panelix-platform INTERFACE
         OpenGL::OpenGL OpenGL::EGL OpenGL::GLU Freetype::Freetype Fontconfig::Fontconfig glfw)
     target_compile_definitions(panelix-platform INTERFACE GLFW_INCLUDE_NONE)
+    # For tests, fuzzers and benchmarks by FONTCONFIG_FILE: the same typefaces on both targets, Wine's.
+    configure_file(${CMAKE_SOURCE_DIR}/cmake/fonts.conf.in ${CMAKE_BINARY_DIR}/fonts.conf @ONLY)
 endif()
 target_compile_definitions(panelix-platform INTERFACE
     GLM_FORCE_XYZW_ONLY      # one name for each part of a vector

@@ -16,9 +16,6 @@ endif()
 list(APPEND sources ${host})
 list(REMOVE_DUPLICATES sources)
 
-# Typefaces are the same on both targets: those that come with Wine.
-configure_file(cmake/fonts.conf.in ${CMAKE_BINARY_DIR}/fonts.conf @ONLY)
-
 add_executable(panelix-tests ${sources})
 target_link_libraries(panelix-tests PRIVATE panelix panelix-options GTest::gtest GTest::gmock)
 set_property(SOURCE ${host} APPEND PROPERTY COMPILE_DEFINITIONS
