@@ -162,12 +162,12 @@ stop_wine() {
     wineserver -w >/dev/null 2>&1 || true
     [ "$server_pid" = none ] || wait "$server_pid" 2>/dev/null || true
     server_pid=
-    # The server's socket lies outside the prefix: on Debian in a folder that a link in the prefix names, else in
+    # The server's socket lies outside the prefix: on Debian in a folder that a file in the prefix names, else in
     # one that goes by the prefix's device and inode.
     local sockets
-    sockets=$(readlink "$WINEPREFIX/wineserver" || true)
-    if [[ $sockets == /tmp/wine-* ]]; then
-        rm -rf "$sockets" "$WINEPREFIX/wineserver"
+    sockets=$(cat "$WINEPREFIX/wineserver" 2>/dev/null || true)
+    if [[ $sockets =~ ^wine-[A-Za-z0-9]+$ ]]; then
+        rm -rf "/tmp/$sockets" "$WINEPREFIX/wineserver"
     elif [ -d "$WINEPREFIX" ]; then
         sockets=/tmp/.wine-$(id -u)
         rm -rf "$sockets/server-$(stat -c '%d %i' "$WINEPREFIX" | xargs printf '%x-%x')"
