@@ -166,6 +166,39 @@ protected:
     LuAuditor*& getAuditor(int index);
     int getAuditorListLength() const;
 
+    /// Calls `call` with each auditor of this component, in the order of the list; false when there is none.
+    /// The length is read once, before: an auditor that removes itself or another meanwhile shifts the
+    /// entries behind it, and the places beyond the end are skipped. The component lives until the last call
+    /// has returned; the caller uses it no more when the result is true.
+    template <class Auditor, class Call>
+    bool callAuditors(Call call) {
+        const int length = getAuditorListLength();
+        if (length == 0)
+            return false;
+        // A component that nobody has referenced yet can't be given up by an auditor either.
+        const bool isHeld = getRefCount() > 0;
+        if (isHeld)
+            ref();
+        for (int index = 0; index < length; ++index) {
+            LuAuditor* const auditor = index < getAuditorListLength() ? getAuditor(index) : nullptr;
+            if (auditor)
+                call(*static_cast<Auditor*>(auditor));
+        }
+        if (isHeld)
+            unref();
+        return true;
+    }
+
+    /// What applyDlgCptAuditor of every class does: its own auditors hear of it, or else the parent.
+    template <class Component, class Auditor>
+    void fireAuditors(void (Auditor::*operation)(Component*)) {
+        auto* component = static_cast<Component*>(this);
+        const bool isHeard =
+            callAuditors<Auditor>([&](Auditor& auditor) { (auditor.*operation)(component); });
+        if (!isHeard && m_parent)
+            m_parent->applyAuditor(this);
+    }
+
     static int existWidget(HWND window) { return IsWindow(window) ? 1 : 0; }
 
     /// The callback of all sensors of all components; `data` is the component.

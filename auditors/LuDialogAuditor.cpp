@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "auditors/LuDialogAuditor.h"
+
+#include "controls/LuDialogPushButton.h"
+#include "platform/lumora/base/LuDebugError.h"
+#include "platform/lumora/base/LuPreferences.h"
+
+namespace {
+
+/// Looked up at each call, so that it can be switched while the program runs.
+bool isDiagnosing() { return LuPreferences::getValue("DEBUG_PANELIX_AUDITORS") != nullptr; }
+
+LvString namedLine(const char* field, const LvString& value) {
+    return LvString("\n\t\t -> ") + field + " \"" + value + "\"";
+}
+
+/// `operation` is one of LuDialogAuditor, `lines` say of which component it was to tell.
+void postUndefined(const char* operation, const char* componentClass, const LvString& lines) {
+    const LvString text = LvString("WARNING ! The DialogAuditor does not define the ") + componentClass +
+                          " component :" + lines;
+    LuDebugError::postInfo((LvString("LuDialogAuditor::") + operation).getString(), "%s", text.getString());
+}
+
+} // namespace
+
+void LuDialogAuditor::dialogPushButton(LuDialogPushButton* button) {
+    if (isDiagnosing())
+        postUndefined("dialogPushButton", "LuDialogPushButton",
+                      namedLine("label", button->label.getValue()) +
+                          namedLine("buttonLabel", button->buttonLabel.getValue()));
+}
+
+void LuDialogAuditor::dialogCheckBox(LuDialogCheckBox*) {}
+void LuDialogAuditor::dialogComboBox(LuDialogComboBox*) {}
+void LuDialogAuditor::dialogEditText(LuDialogEditText*) {}
+void LuDialogAuditor::dialogIntegerSlider(LuDialogIntegerSlider*) {}
+void LuDialogAuditor::dialogRadioButtons(LuDialogRadioButtons*) {}
+void LuDialogAuditor::dialogRealSlider(LuDialogRealSlider*) {}
+void LuDialogAuditor::tabDialog(LuTabDialog*) {}
+void LuDialogAuditor::menuPushButton(LuMenuPushButton*) {}
+void LuDialogAuditor::menuCheckBox(LuMenuCheckBox*) {}
+void LuDialogAuditor::menuFileSelection(LuMenuFileSelection*) {}
+void LuDialogAuditor::menuRadioButtons(LuMenuRadioButtons*) {}
