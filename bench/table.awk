@@ -1,0 +1,68 @@
+# SPDX-License-Identifier: MIT
+# Makes the table of the benchmarks from lines "name N repeats value": the smallest value of each name and number,
+# and what it is to be compared with. A line that is missing makes its rows say so.
+{
+    key = $1 " " $2
+    if (!(key in best) || $4 < best[key])
+        best[key] = $4
+}
+
+function number(value) {
+    return value >= 100 ? sprintf("%.0f", value) : sprintf("%.1f", value)
+}
+
+# One row: ours at n, compared with a line of another name or number; the ratio shall not exceed 'target'.
+function compare(what, ours, n, theirs, m, target,    a, b, ratio) {
+    a = ours " " n
+    b = theirs " " m
+    if (!(a in best) || !(b in best)) {
+        printf "%-34s %6d  not measured: %s\n", what, n, (a in best) ? b : a
+        missing++
+        return
+    }
+    ratio = best[a] / best[b]
+    verdict(ratio <= target)
+    printf "%-34s %6d %10s %10s  %-20s %6.2f %6.2f  %s\n", what, n, number(best[a]), number(best[b]),
+        theirs " " m, ratio, target, word
+}
+
+# One row: ours at n shall be below a fixed value.
+function bound(what, ours, n, target,    a) {
+    a = ours " " n
+    if (!(a in best)) {
+        printf "%-34s %6d  not measured: %s\n", what, n, a
+        missing++
+        return
+    }
+    verdict(best[a] <= target)
+    printf "%-34s %6d %10s %10s  %-20s %6.2f %6.2f  %s\n", what, n, number(best[a]), number(target),
+        "(fixed)", best[a] / target, 1, word
+}
+
+function verdict(ok) {
+    word = ok ? "ok" : "MISSED"
+    if (!ok)
+        missed++
+}
+
+END {
+    printf "%-34s %6s %10s %10s  %-20s %6s %6s\n", "", "N", "ours", "theirs", "compared with", "ratio", "target"
+    split("100 1000 10000", counts)
+    for (i = 1; i <= 3; i++)
+        compare("load, ns per control", "panelix-load", counts[i], "qt-load", counts[i], 0.2)
+    compare("load, growth", "panelix-load", 10000, "panelix-load", 100, 1.3)
+    for (i = 1; i <= 3; i++)
+        compare("resize, ns per control", "panelix-resize", counts[i], "qt-resize", counts[i], 1)
+    for (i = 1; i <= 3; i++)
+        compare("first 3D build, ns per button", "panelix-build-3d", counts[i], "qt-load", counts[i], 0.75)
+    for (i = 1; i <= 3; i++)
+        compare("cold bounding box, ns per box", "panelix-bbox-cold", counts[i], "limit-bbox", counts[i], 4)
+    for (i = 1; i <= 3; i++)
+        bound("warm bounding box, ns", "panelix-bbox-warm", counts[i], 1000)
+    compare("warm bounding box, growth", "panelix-bbox-warm", 10000, "panelix-bbox-warm", 100, 1.3)
+    compare("new text of one control, growth", "panelix-set-value", 10000, "panelix-set-value", 100, 1.3)
+    bound("push button before build, bytes", "panelix-heap", 10000, 2048)
+    compare("windows under Wine, ns per button", "panelix-windows", 1000, "limit-windows", 1000, 1.15)
+    printf "\n%d missed, %d not measured\n", missed, missing
+    exit (missed > 0 || missing > 0)
+}
