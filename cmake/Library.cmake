@@ -4,9 +4,11 @@
 set(folders core auditors layout controls menus message platform/lumora)
 set(patterns platform/*.cpp platform/fonts/*.cpp platform/win32/*.cpp)
 if(WIN32)
-    list(APPEND folders platform/win32/windows platform/fonts/gdi)
+    set(window_system platform/win32/windows)
+    list(APPEND folders ${window_system} platform/fonts/gdi)
 else()
-    list(APPEND folders platform/win32/memory platform/fonts/freetype)
+    set(window_system platform/win32/memory)
+    list(APPEND folders ${window_system} platform/fonts/freetype)
 endif()
 list(TRANSFORM folders APPEND "/*.cpp")
 file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${folders})
@@ -28,5 +30,6 @@ else()
 endif()
 # The warnings are ours, not those of who uses the library.
 target_link_libraries(panelix PUBLIC panelix-platform PRIVATE $<BUILD_INTERFACE:panelix-options>)
+# The window system's folder too: platform/win32/WindowSystem.h takes its names from the one that is there.
 target_include_directories(panelix PUBLIC $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}>
-    $<BUILD_INTERFACE:${CMAKE_BINARY_DIR}>)
+    $<BUILD_INTERFACE:${CMAKE_BINARY_DIR}> $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/${window_system}>)

@@ -11,7 +11,8 @@ cd "$PANELIX_ROOT"
 {
 # Debian packages by purpose; docs/architecture.md has the reason for each.
 PACKAGES_NATIVE="cmake ninja-build ccache g++ googletest libglm-dev libfreetype-dev libfontconfig-dev
-    libglu1-mesa-dev libglfw3-dev libegl-dev libgl-dev libstb-dev libcli11-dev libgl1-mesa-dri fonts-wine"
+    libglu1-mesa-dev libglfw3-dev libegl-dev libgl-dev libstb-dev libcli11-dev libgl1-mesa-dri fonts-wine
+    xvfb"
 PACKAGES_WINDOWS="cmake ninja-build ccache g++-mingw-w64-x86-64-posix googletest libglm-dev libstb-dev libcli11-dev
     wine wine64 fonts-wine xvfb xdotool libgl1-mesa-dri libxcomposite1"
 PACKAGES_FUZZ="clang llvm libclang-rt-dev"
@@ -86,8 +87,8 @@ build() {
     say "Building $preset (minutes at first, seconds when little has changed)"
     if ! { cmake --preset "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1; then
         # The first errors tell the cause, the last lines the place.
-        grep -m 20 -A 5 -E 'error|FAILED|CMake Error' "$log" || true
-        tail -n 20 "$log"
+        grep -m 20 -A 5 -E 'error|FAILED|CMake Error' "$log" | cut -c -300 || true
+        tail -n 20 "$log" | cut -c -300
         say "The build of $preset failed; all of its output is in $log"
         return 1
     fi
