@@ -24,6 +24,9 @@ protected:
     void visit(LuNode* node) override;
 
 private:
+    template <class Function>
+    void writeGraph(LuNode* head, Function count);
+
     LuOutput m_ownOutput;
     LuOutput* m_output;
 };

@@ -70,8 +70,12 @@ public:
     const LuObserverList& getObservers() const { return m_observers; }
 
     /// Reads one object of the given type from a file: a description by type name, by DEF and type name, or
-    /// USE of one before. `base` is null at the end of a list of children, or of the file. False on a
-    /// failure, which has been reported.
+    /// USE of one before. `base` is null at the end of a list of children, or of the file; with `isChild`
+    /// false, where one object must stand, only for an empty place in a binary file. False on a failure,
+    /// which has been reported.
+    ///
+    /// A new object comes without a reference. One with a name is held by `in` until that is closed, so it
+    /// must be referenced before.
     static bool read(LuInput* in, LuBase*& base, LuType type, bool isChild = true);
 
     /// Reads what stands between an object's braces. `flags`: bit 2 (value 2) says that a binary object has
@@ -81,7 +85,7 @@ public:
     /// In the writer's first stage: counts one more place that writes this object.
     virtual void addWriteReference(LuOutput* out, bool isFromField = false);
 
-    /// In the second stage: true when this object, or something below it, is to be written.
+    /// In the second stage: true when the first has counted this object.
     virtual bool shouldWrite();
 
     /// Writes what stands before an object's fields: type, DEF name and opening brace, or USE. True when the

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/lumora/base/LvGeometry.h"
 
+#include <cmath>
+
 namespace {
 
 /// Below this sine or cosine two directions count as parallel or perpendicular: what float keeps of them.
@@ -8,6 +10,9 @@ constexpr float ANGLE_TOLERANCE = 1e-6F;
 
 LvVec3f toUnit(const LvVec3f& direction, const LvVec3f& fallback) {
     const float length = direction.length();
+    // What is of length 1 already keeps its numbers, however often it is written to a file and read.
+    if (std::abs(length - 1) <= ANGLE_TOLERANCE)
+        return direction;
     return length > 0 ? direction * (1 / length) : fallback;
 }
 

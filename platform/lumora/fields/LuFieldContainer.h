@@ -58,6 +58,9 @@ public:
     void write(LuOutput* out, const LuFieldContainer* container) const;
 
 private:
+    bool readText(LuInput* in, LuFieldContainer* container, bool errorOnUnknownField) const;
+    bool readBinary(LuInput* in, LuFieldContainer* container) const;
+
     struct Row {
         LvName name;
         std::ptrdiff_t offset;
@@ -91,7 +94,9 @@ public:
     /// True when both have the same type and equal values in all fields.
     bool fieldsAreEqual(const LuFieldContainer& other) const;
 
+    /// Reads the value of one of this object's fields.
+    virtual bool readField(LuInput* in, LuField* field) { return field->readValue(in); }
+
     bool readInstance(LuInput* in, unsigned short flags) override;
     void addWriteReference(LuOutput* out, bool isFromField = false) override;
-    bool shouldWrite() override;
 };

@@ -40,7 +40,9 @@ public:
     void getMatrix(LuGetMatrixAction* action) override;
     void search(LuSearchAction* action) override;
     void write(LuWriteAction* action) override;
-    bool readInstance(LuInput* in, unsigned short flags) override;
+
+    /// A node that a file gives for a part goes in by setPart.
+    bool readField(LuInput* in, LuField* field) override;
 
 protected:
     LuBaseKit() : m_children(this) {}

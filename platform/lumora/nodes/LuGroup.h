@@ -36,11 +36,9 @@ class LuGroup : public LuNode {
     void search(LuSearchAction* action) override;
     void write(LuWriteAction* action) override;
     bool readInstance(LuInput* in, unsigned short flags) override;
-    void addWriteReference(LuOutput* out, bool isFromField = false) override;
-    bool shouldWrite() override;
 
 protected:
-    /// Reads the children that follow the fields. `flags` as for readInstance.
+    /// Reads the children that follow the fields.
     virtual bool readChildren(LuInput* in);
 
 private:
