@@ -28,6 +28,7 @@ if(WIN32)
 else()
     add_library(panelix STATIC ${sources} ${flat} ${PANELIX_EMBEDDED_SKINS})
 endif()
+target_compile_definitions(panelix PRIVATE PANELIX_VERSION="${PROJECT_VERSION}")
 # The warnings are ours, not those of who uses the library.
 target_link_libraries(panelix PUBLIC panelix-platform PRIVATE $<BUILD_INTERFACE:panelix-options>)
 # The window system's folder too: platform/win32/WindowSystem.h takes its names from the one that is there.

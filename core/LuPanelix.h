@@ -288,7 +288,6 @@ private:
 
     static LuSkin s_skin;
     static int s_initRefCount;
-    static LvPList* s_listData;
     static LuPanelix* m_lastActive;
     static LvString s_skinsPath;
 };

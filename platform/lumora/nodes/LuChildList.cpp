@@ -5,10 +5,13 @@
 #include "platform/lumora/nodes/LuNode.h"
 
 #include <algorithm>
+#include <utility>
 
 LuChildList::~LuChildList() {
-    for (LuNode* child : m_children)
-        disconnect(child);
+    for (LuNode* child : m_children) {
+        child->removeObserver(LuObserver(static_cast<LuBase*>(m_owner)));
+        child->unref();
+    }
 }
 
 LuNode* LuChildList::operator[](int index) const {
@@ -25,11 +28,6 @@ void LuChildList::connect(LuNode* child) {
     child->addObserver(LuObserver(static_cast<LuBase*>(m_owner)));
 }
 
-void LuChildList::disconnect(LuNode* child) {
-    child->removeObserver(LuObserver(static_cast<LuBase*>(m_owner)));
-    child->unref();
-}
-
 void LuChildList::insert(LuNode* child, int index) {
     if (!child)
         return;
@@ -38,13 +36,17 @@ void LuChildList::insert(LuNode* child, int index) {
     m_owner->startNotify();
 }
 
+// The end of a child may be the end of this list too, when the child was what kept its owner alive. So each
+// operation lets go of children last, and touches nothing of its own after that.
+
 void LuChildList::set(int index, LuNode* child) {
     if (!child || index < 0 || index >= getLength())
         return;
     connect(child);
     LuNode* const before = std::exchange(m_children[static_cast<std::size_t>(index)], child);
-    disconnect(before);
+    before->removeObserver(LuObserver(static_cast<LuBase*>(m_owner)));
     m_owner->startNotify();
+    before->unref();
 }
 
 void LuChildList::remove(int index) {
@@ -52,19 +54,21 @@ void LuChildList::remove(int index) {
         return;
     LuNode* const child = m_children[static_cast<std::size_t>(index)];
     m_children.erase(m_children.begin() + index);
-    disconnect(child);
+    child->removeObserver(LuObserver(static_cast<LuBase*>(m_owner)));
     m_owner->startNotify();
+    child->unref();
 }
 
 void LuChildList::truncate(int length) {
     if (length < 0 || length >= getLength())
         return;
-    while (getLength() > length) {
-        LuNode* const child = m_children.back();
-        m_children.pop_back();
-        disconnect(child);
-    }
+    const std::vector<LuNode*> dropped(m_children.begin() + length, m_children.end());
+    m_children.resize(static_cast<std::size_t>(length));
+    for (LuNode* child : dropped)
+        child->removeObserver(LuObserver(static_cast<LuBase*>(m_owner)));
     m_owner->startNotify();
+    for (auto child = dropped.rbegin(); child != dropped.rend(); ++child)
+        (*child)->unref();
 }
 
 void LuChildList::traverse(LuAction* action, int first, int last) const {

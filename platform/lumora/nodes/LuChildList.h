@@ -40,7 +40,6 @@ public:
 
 private:
     void connect(LuNode* child);
-    void disconnect(LuNode* child);
 
     LuNode* m_owner;
     std::vector<LuNode*> m_children;

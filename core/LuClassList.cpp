@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "core/LuClassList.h"
+
+#include "auditors/LuAuditor.h"
+#include "controls/LuDialogLabel.h"
+#include "controls/LuDialogPushButton.h"
+#include "controls/LuDialogSeparator.h"
+#include "layout/LuColumnDialog.h"
+#include "layout/LuDialogGroup.h"
+#include "layout/LuRowDialog.h"
+#include "layout/LuTopLevelDialog.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct ComponentClass {
+    void (*init)();
+    void (*exit)();
+};
+
+template <class Class>
+constexpr ComponentClass row() {
+    return {&Class::initClass, &Class::exitClass};
+}
+
+constexpr ComponentClass CLASSES[] = {
+    row<LuPanelix>(),         row<LuTopComponent>(),   row<LuDialogComponent>(), row<LuDialogGroup>(),
+    row<LuColumnDialog>(),    row<LuRowDialog>(),      row<LuDialogLabel>(),     row<LuDialogPushButton>(),
+    row<LuDialogSeparator>(), row<LuTopLevelDialog>(),
+};
+
+/// In the order in which a change of skin reads their files.
+constexpr void (*SKIN_CHANGES[])() = {
+    &LuDialogComponent::change3DSkin,
+    &LuDialogPushButton::change3DSkin,
+    &LuDialogSeparator::change3DSkin,
+    &LuTopLevelDialog::change3DSkin,
+};
+
+} // namespace
+
+void luInitComponentClasses() {
+    for (const ComponentClass& componentClass : CLASSES)
+        componentClass.init();
+    LuAuditor::initClasses();
+}
+
+void luExitComponentClasses() {
+    LuAuditor::exitClasses();
+    std::for_each(std::rbegin(CLASSES), std::rend(CLASSES), [](const ComponentClass& c) { c.exit(); });
+}
+
+void luChangeSkinOfComponentClasses() {
+    for (auto* const changeSkin : SKIN_CHANGES)
+        changeSkin();
+}

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "core/LuClassList.h"
+#include "core/LuPanelix.h"
+#include "generated/LuEmbeddedSkins.h"
+#include "platform/lumora/base/LuDebugError.h"
+#include "platform/lumora/base/LuPreferences.h"
+#include "platform/lumora/base/LvFileHelper.h"
+#include "platform/lumora/io/LuDB.h"
+#include "platform/lumora/io/LuInput.h"
+
+#include <cstring>
+
+const char* LuPanelix::TextProperties = LuEmbeddedSkin_TextProperties;
+LuSkin LuPanelix::s_skin("TextProperties.lum", TextProperties, {"DialogTextProperties"});
+LvString LuPanelix::s_skinsPath;
+
+namespace {
+
+/// The long part of the message about missing skin files is said once.
+bool s_isFirstMissingFile = true;
+
+/// The name of a group while another is read in its place.
+LvName getTemporaryName(const LvString& part) { return "_Zph_Tmp_" + part; }
+
+LuGroup* findGroup(LvName name) {
+    LuNode* const node = LuNode::getByName(name);
+    return node && node->isOfType(LuGroup::getClassTypeId()) ? static_cast<LuGroup*>(node) : nullptr;
+}
+
+bool isUsable(const LvString& path) { return LvFileHelper::isAccessible(path, 0); }
+
+} // namespace
+
+void LuSkin::loadOnFirstUse() {
+    if (!m_isFirstRead || m_isLoaded)
+        return;
+    LuPanelix::readDefaultSkinsParts(m_file, m_text);
+    m_isLoaded = 1;
+    m_isFirstRead = false;
+}
+
+void LuSkin::change() {
+    for (const char* name : m_names)
+        LuPanelix::free3DSkin(name);
+    LuPanelix::readDefaultSkinsParts(m_file, m_text);
+    for (const char* name : m_names)
+        LuPanelix::load3DSkin(name);
+    m_isLoaded = 1;
+}
+
+LvString LuPanelix::getSkinsDirectories() {
+    LvString directories;
+    const LvString home = LuPreferences::getStringValue("LUMORAHOME");
+    if (!home.isEmpty())
+        directories = home + "/data/Panelix/skins/";
+    const LvString further = LuPreferences::getStringValue("PANELIX_SKINS_DIR");
+    if (!further.isEmpty()) {
+        if (!directories.isEmpty())
+            directories += ";";
+        directories += further;
+    }
+    return directories;
+}
+
+LvString LuPanelix::getSkinsDirectory() { return getSkinsDirectories(); }
+
+void LuPanelix::setSkinsDirectories(LvString directories) {
+    LuPreferences::setString("PANELIX_SKINS_DIR", directories);
+}
+
+int LuPanelix::setSkinsDirectory(LvString directory) {
+    setSkin(directory);
+    return 1;
+}
+
+void LuPanelix::setSkin(LvString name) {
+    std::vector<LvString> candidates{name, "./" + name};
+    const LvString directories = LvFileHelper::toUnixPath(getSkinsDirectories());
+    for (int start = 0; start < directories.getLength();) {
+        const int end = directories.find(";", start);
+        candidates.push_back(directories.getSubString(start, end == LvString::npos ? -1 : end) + "/" + name);
+        start = end == LvString::npos ? directories.getLength() : end + 1;
+    }
+    for (const LvString& candidate : candidates) {
+        if (isUsable(candidate)) {
+            s_skinsPath = candidate;
+            change3DSkin();
+            return;
+        }
+    }
+}
+
+void LuPanelix::free3DSkin(LvString part) {
+    LuGroup* const group = findGroup(part);
+    if (!group)
+        return;
+    group->setName(getTemporaryName(part));
+    group->removeAllChildren();
+}
+
+void LuPanelix::load3DSkin(LvString part) {
+    LuGroup* const group = findGroup(getTemporaryName(part));
+    LuGroup* const fresh = findGroup(part);
+    if (!group || !fresh)
+        return;
+    for (int i = 0; i < fresh->getNumChildren(); ++i)
+        group->addChild(fresh->getChild(i));
+    fresh->setName({});
+    group->setName(part);
+}
+
+void LuPanelix::change3DSkin() {
+    s_skin.change();
+    luChangeSkinOfComponentClasses();
+}
+
+void LuPanelix::readDefaultSkinsParts(const LvString& file, const char* text) {
+    LuGroup* root = readFromFile(file);
+    if (!root) {
+        LvString message = "The skin file : <" + file + "> cannot be found.";
+        if (s_isFirstMissingFile) {
+            message += "\nIMPORTANT : Internal Panelix component skin is loaded to prevent from your "
+                       "application to exit.\nFor loading your own Panelix skins, please verify the "
+                       "PANELIX_SKINS_DIR environment variable.";
+            s_isFirstMissingFile = false;
+        }
+        LuDebugError::post("Panelix::readDefaultSkinsParts", "%s", message.getString());
+        LuInput input;
+        input.setBuffer(text, std::strlen(text));
+        root = LuDB::readAll(&input);
+    }
+    // The reference stays for good: the groups are found by their names.
+    if (root)
+        root->ref();
+}
