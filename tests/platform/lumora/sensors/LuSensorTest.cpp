@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "platform/lumora/nodes/LuGroup.h"
+#include "platform/lumora/nodes/LuTransforms.h"
+#include "platform/lumora/sensors/LuSensor.h"
+#include "tests/host/ToolkitTest.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace {
+
+using SensorTest = ToolkitTest;
+using Function = std::function<void()>;
+
+void call(void* data, LuSensor*) { (*static_cast<Function*>(data))(); }
+
+void countCall(void* data, LuSensor*) { ++*static_cast<int*>(data); }
+
+TEST_F(SensorTest, PriorityZeroFiresWithinSetValue) {
+    const Held<LuTranslation> node;
+    int calls = 0;
+    LuFieldSensor sensor(&countCall, &calls);
+    sensor.setPriority(0);
+    sensor.attach(&node->translation);
+    node->translation.setValue({1, 0, 0});
+    EXPECT_EQ(calls, 1);
+    EXPECT_FALSE(sensor.isScheduled());
+}
+
+TEST_F(SensorTest, OtherPrioritiesWaitForTheQueueAndFireOnce) {
+    const Held<LuTranslation> node;
+    int calls = 0;
+    LuFieldSensor sensor(&countCall, &calls);
+    sensor.attach(&node->translation);
+    node->translation.setValue({1, 0, 0});
+    node->translation.setValue({2, 0, 0});
+    EXPECT_EQ(calls, 0);
+    LuDelayQueueSensor::processQueue();
+    EXPECT_EQ(calls, 1);
+    LuDelayQueueSensor::processQueue();
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(SensorTest, QueueRunsByPriorityThenByOrder) {
+    std::string order;
+    Function first = [&order] { order += 'a'; };
+    Function second = [&order] { order += 'b'; };
+    Function third = [&order] { order += 'c'; };
+    LuDelayQueueSensor late(&call, &first);
+    LuDelayQueueSensor early(&call, &second);
+    LuDelayQueueSensor alsoLate(&call, &third);
+    early.setPriority(1);
+    late.schedule();
+    alsoLate.schedule();
+    early.schedule();
+    LuDelayQueueSensor::processQueue();
+    EXPECT_EQ(order, "bac");
+}
+
+TEST_F(SensorTest, SensorScheduledByAnotherWaitsForTheNextRound) {
+    int calls = 0;
+    LuDelayQueueSensor later(&countCall, &calls);
+    Function schedule = [&later] { later.schedule(); };
+    LuDelayQueueSensor sensor(&call, &schedule);
+    sensor.schedule();
+    LuDelayQueueSensor::processQueue();
+    EXPECT_EQ(calls, 0);
+    LuDelayQueueSensor::processQueue();
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(SensorTest, SensorThatEndsWhileItWaitsIsLeftOut) {
+    auto doomed = std::make_unique<LuDelayQueueSensor>(&countCall, nullptr);
+    Function end = [&doomed] { doomed.reset(); };
+    LuDelayQueueSensor sensor(&call, &end);
+    sensor.setPriority(1);
+    sensor.schedule();
+    doomed->schedule();
+    LuDelayQueueSensor::processQueue();
+    EXPECT_EQ(doomed, nullptr);
+}
+
+TEST_F(SensorTest, NotificationOffKeepsSensorsSilent) {
+    const Held<LuTranslation> node;
+    int calls = 0;
+    LuFieldSensor sensor(&countCall, &calls);
+    sensor.setPriority(0);
+    sensor.attach(&node->translation);
+    EXPECT_TRUE(node->enableNotify(false));
+    node->translation.setValue({1, 0, 0});
+    EXPECT_EQ(calls, 0);
+    EXPECT_FALSE(node->enableNotify(true));
+    node->translation.setValue({1, 0, 0});
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(SensorTest, SensorMayDetachItselfAndAnother) {
+    const Held<LuTranslation> node;
+    int calls = 0;
+    LuFieldSensor other(&countCall, &calls);
+    other.setPriority(0);
+    LuFieldSensor* self = nullptr;
+    Function detachBoth = [&] {
+        ++calls;
+        self->detach();
+        other.detach();
+    };
+    LuFieldSensor sensor(&call, &detachBoth);
+    self = &sensor;
+    sensor.setPriority(0);
+    sensor.attach(&node->translation);
+    other.attach(&node->translation);
+    node->translation.setValue({1, 0, 0});
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(SensorTest, FieldMayEndBeforeItsSensor) {
+    int calls = 0;
+    LuFieldSensor sensor(&countCall, &calls);
+    {
+        const Held<LuTranslation> node;
+        sensor.attach(&node->translation);
+    }
+    EXPECT_EQ(sensor.getAttachedField(), nullptr);
+}
+
+TEST_F(SensorTest, ContainerMayEndInTheCall) {
+    auto* node = new LuTranslation;
+    node->ref();
+    Function end = [node] { node->unref(); };
+    LuFieldSensor sensor(&call, &end);
+    sensor.setPriority(0);
+    sensor.attach(&node->translation);
+    node->translation.setValue({1, 0, 0});
+    EXPECT_EQ(sensor.getAttachedField(), nullptr);
+}
+
+TEST_F(SensorTest, NodeSensorSeesChangesBelowOnceEach) {
+    const Held<LuGroup> root;
+    auto* left = new LuGroup;
+    auto* right = new LuGroup;
+    auto* shared = new LuTranslation;
+    root->addChild(left);
+    root->addChild(right);
+    left->addChild(shared);
+    right->addChild(shared);
+    int calls = 0;
+    LuNodeSensor sensor(&countCall, &calls);
+    sensor.setPriority(0);
+    sensor.attach(root.get());
+    shared->translation.setValue({1, 0, 0});
+    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(sensor.getTriggerNode(), shared);
+    EXPECT_EQ(sensor.getTriggerField(), &shared->translation);
+    right->removeChild(shared);
+    EXPECT_EQ(calls, 2);
+}
+
+TEST_F(SensorTest, MutedNodeOnTheWayKeepsSensorsAboveSilent) {
+    const Held<LuGroup> root;
+    auto* middle = new LuGroup;
+    auto* node = new LuTranslation;
+    root->addChild(middle);
+    middle->addChild(node);
+    int calls = 0;
+    LuNodeSensor sensor(&countCall, &calls);
+    sensor.setPriority(0);
+    sensor.attach(root.get());
+    middle->enableNotify(false);
+    node->translation.setValue({1, 0, 0});
+    EXPECT_EQ(calls, 0);
+}
+
+} // namespace
