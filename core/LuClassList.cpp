@@ -2,13 +2,7 @@
 #include "core/LuClassList.h"
 
 #include "auditors/LuAuditor.h"
-#include "controls/LuDialogLabel.h"
-#include "controls/LuDialogPushButton.h"
-#include "controls/LuDialogSeparator.h"
-#include "layout/LuColumnDialog.h"
-#include "layout/LuDialogGroup.h"
-#include "layout/LuRowDialog.h"
-#include "layout/LuTopLevelDialog.h"
+#include "core/LuPanelix.h"
 
 #include <algorithm>
 #include <iterator>
@@ -26,18 +20,9 @@ constexpr ComponentClass row() {
 }
 
 constexpr ComponentClass CLASSES[] = {
-    row<LuPanelix>(),         row<LuTopComponent>(),   row<LuDialogComponent>(), row<LuDialogGroup>(),
-    row<LuColumnDialog>(),    row<LuRowDialog>(),      row<LuDialogLabel>(),     row<LuDialogPushButton>(),
-    row<LuDialogSeparator>(), row<LuTopLevelDialog>(),
+    row<LuPanelix>(),
 };
 
-/// In the order in which a change of skin reads their files.
-constexpr void (*SKIN_CHANGES[])() = {
-    &LuDialogComponent::change3DSkin,
-    &LuDialogPushButton::change3DSkin,
-    &LuDialogSeparator::change3DSkin,
-    &LuTopLevelDialog::change3DSkin,
-};
 
 } // namespace
 
@@ -52,7 +37,4 @@ void luExitComponentClasses() {
     std::for_each(std::rbegin(CLASSES), std::rend(CLASSES), [](const ComponentClass& c) { c.exit(); });
 }
 
-void luChangeSkinOfComponentClasses() {
-    for (auto* const changeSkin : SKIN_CHANGES)
-        changeSkin();
-}
+void luChangeSkinOfComponentClasses() {}
