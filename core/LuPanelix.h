@@ -140,6 +140,16 @@ class LuPanelix : public LuDragger {
     virtual bool isTopLevelDialog() const { return false; }
     virtual bool isDialogGroup() const { return false; }
 
+    /// The first component below this one that has the id; null where there is none, or nothing below.
+    virtual LuPanelix* searchForAuditorId(LvString) { return nullptr; }
+
+    /// Reports the component to its container once more, as if it had just changed. What has components below
+    /// reports those.
+    virtual void reportAgain(LuPanelix& container) { container.applyAuditor(this); }
+
+    /// A native menu reports its entry `id`; the data of the entry is this component, as a LuPanelix.
+    virtual void menuEvent(void*, int) {}
+
     /// How convertToCString treats this component's texts: what a line feed becomes; whether escapes stay.
     virtual const char* getLineEnd() const { return "\n"; }
     virtual bool keepsEscapes() const { return false; }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "layout/LuSizes.h"
 #include "layout/LuTopComponent.h"
 
 class LuScale;
@@ -27,7 +28,7 @@ class LuDialogComponent : public LuTopComponent {
     enum EdgeStyle { NONE = 0, SHADOW_IN = 1, SHADOW_OUT = 2 };
 
     /// The largest size: no limit.
-    static constexpr int UNLIMITED = 2147483647;
+    static constexpr int UNLIMITED = LuSizes::UNLIMITED;
 
     /// What width and height lose for the edge, whatever its style.
     static constexpr int EDGE_ROOM = 6;
@@ -90,6 +91,12 @@ class LuDialogComponent : public LuTopComponent {
     void get2DComponentSize(LvVec2i32& size, LvVec2i32& position) const;
     void get3DComponentSize(LvVec2i32& size, LvVec2i32& position) const;
 
+    /// Tells along which axis the container adds its children up: 0 side by side, 1 one below the other.
+    virtual void setStackAxis(int) {}
+
+    /// Whether WM_DRAWITEM goes to eventNotify.
+    virtual bool drawsItems() const { return false; }
+
     /// Writes the six size fields as the layout's own doing, and marks what the user has left open.
     void setSize(int newWidth, int newHeight, int newMinWidth, int newMinHeight, int newMaxWidth,
                  int newMaxHeight);
@@ -103,6 +110,12 @@ protected:
 
     /// Pixels from the carrier window's edge to the content, by the edge style: 3, 2 or 0.
     int getEdgeInset() const;
+
+    /// What stands for size fields that are 0, seen from outside: a group adds its border.
+    virtual void getOuterDefaultSizes(LuSizes& sizes);
+
+    /// Hands label and component sizes to the children, before a build that starts in 3D.
+    virtual void setChildrenSizes() {}
 
     /// Column and row dialogs have no frame transform: their children stand in front of the whole frame.
     virtual bool hasMainTransform() const { return true; }
@@ -147,4 +160,7 @@ protected:
 
 private:
     void createComponentWidget(HWND parent);
+    DWORD getExtendedStyle() const;
+    void attachSensors();
+    LuSizeFields getSizeFields();
 };

@@ -3,6 +3,8 @@
 
 #include "core/LuPanelix.h"
 
+class LuMenuBar;
+
 /// What may stand directly in a top-level dialog.
 class LuTopComponent : public LuPanelix {
     LU_KIT_HEADER(LuTopComponent)
@@ -11,6 +13,12 @@ class LuTopComponent : public LuPanelix {
 
     /// The size wished for and its limits, in pixels. Empty at this level.
     virtual void getSize(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize);
+
+    /// This component if it is a menu bar, which a top-level dialog lays out by itself; else null.
+    virtual LuMenuBar* asMenuBar() { return nullptr; }
+
+    /// Shows or hides what the component has opened in 3D.
+    virtual void show3DChildren(int) {}
 
     void buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& position, int is2D) override;
     void destroyWidget() override;
