@@ -40,7 +40,9 @@ public:
     virtual void removeChild(Child* child) { removeChild(this->findChild(child)); }
     virtual void removeChild(int index);
     virtual void removeAllChildren();
-    virtual void replaceChild(Child* child, Child* newChild) { replaceChild(this->findChild(child), newChild); }
+    virtual void replaceChild(Child* child, Child* newChild) {
+        replaceChild(this->findChild(child), newChild);
+    }
     virtual void replaceChild(int index, Child* newChild);
 
     /// Reads the children that follow the fields in a file. False on a failure, which has been reported.

@@ -9,8 +9,7 @@
 namespace {
 
 LRESULT CALLBACK carrierProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* const component =
-        reinterpret_cast<LuDialogComponent*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+    auto* const component = reinterpret_cast<LuDialogComponent*>(GetWindowLongPtrA(window, GWLP_USERDATA));
     if (!component)
         return DefWindowProcA(window, message, wParam, lParam);
     switch (message) {

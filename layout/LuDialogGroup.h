@@ -14,7 +14,8 @@ class LuDialogGroupAuditor;
 /// |----------------------------|----------------------------------------------------------------------|
 /// | `windowResizedByChildren`  | a change of the children gives the group the size that they need now |
 /// | `margin`                   | pixels kept free on all four sides inside                            |
-/// | `vScrollVisibility`, `hScrollVisibility` | NEVER, ALWAYS, or AUTO: when the room is too small; windows only |
+/// | `vScrollVisibility`, `hScrollVisibility` | NEVER, ALWAYS, or AUTO: when the room is too small; windows
+/// only |
 ///
 /// The children are owned by references. After the first build every change of them rebuilds the dialog that
 /// the group belongs to.

@@ -12,7 +12,8 @@ LuRowDialog::LuRowDialog() : LuStackDialog(1, rowSpacing) {
 }
 
 void LuRowDialog::setChildrenLabelSize() {
-    luSetCommonLabelSize(getNumChildren(), [this](int i) { return getChild(i); }, true);
+    luSetCommonLabelSize(
+        getNumChildren(), [this](int i) { return getChild(i); }, true);
 }
 
 void LuRowDialog::setChildrenComponentSize() {

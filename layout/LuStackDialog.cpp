@@ -102,11 +102,12 @@ void LuStackDialog::update3DChildren() {
     LvVec2i32 position(luAddSize(margin.getValue(), 3), luAddSize(margin.getValue(), 3));
     LvVec3f translation;
     apply3DTranslation(mainCptSeparator.getValue(), m_depth, translation);
-    placeChildren(position, inner[1 - m_axis],
-                  [this, &translation](LuDialogComponent* child, LvVec2i32& childSize, LvVec2i32& childPosition) {
-                      child->set3DParentTranslation(translation);
-                      child->buildWidget(m_widget, childSize, childPosition, 0);
-                  });
+    placeChildren(
+        position, inner[1 - m_axis],
+        [this, &translation](LuDialogComponent* child, LvVec2i32& childSize, LvVec2i32& childPosition) {
+            child->set3DParentTranslation(translation);
+            child->buildWidget(m_widget, childSize, childPosition, 0);
+        });
 }
 
 void LuStackDialog::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& position, int is2D) {

@@ -8,7 +8,7 @@
 /// A window class of the library, registered on first use.
 struct LuWindowClass {
     const char* name;
-    UINT style;          ///< CS_...
+    UINT style; ///< CS_...
     WNDPROC procedure;
     HCURSOR cursor;      ///< Null for none.
     HICON (*getIcon)();  ///< Asked when the class is registered; null for no icon.
