@@ -3,6 +3,9 @@
 
 #include "auditors/LuAuditor.h"
 #include "core/LuPanelix.h"
+#include "layout/LuColumnDialog.h"
+#include "layout/LuRowDialog.h"
+#include "layout/LuTopLevelDialog.h"
 
 #include <algorithm>
 #include <iterator>
@@ -20,9 +23,9 @@ constexpr ComponentClass row() {
 }
 
 constexpr ComponentClass CLASSES[] = {
-    row<LuPanelix>(),
+    row<LuPanelix>(),      row<LuTopComponent>(), row<LuDialogComponent>(), row<LuDialogGroup>(),
+    row<LuColumnDialog>(), row<LuRowDialog>(),    row<LuTopLevelDialog>(),
 };
-
 
 } // namespace
 
@@ -37,4 +40,7 @@ void luExitComponentClasses() {
     std::for_each(std::rbegin(CLASSES), std::rend(CLASSES), [](const ComponentClass& c) { c.exit(); });
 }
 
-void luChangeSkinOfComponentClasses() {}
+void luChangeSkinOfComponentClasses() {
+    LuDialogComponent::change3DSkin();
+    LuTopLevelDialog::change3DSkin();
+}
