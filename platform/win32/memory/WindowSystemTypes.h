@@ -120,6 +120,10 @@ struct WINDOWPOS {
     UINT flags;
 };
 
+struct STYLESTRUCT {
+    DWORD styleOld, styleNew;
+};
+
 struct NCCALCSIZE_PARAMS {
     RECT rgrc[3];
     WINDOWPOS* lppos;

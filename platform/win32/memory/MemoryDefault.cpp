@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "platform/win32/memory/MemoryWindow.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+void limitToTrackSize(LuMemoryWindow& window, WINDOWPOS& position) {
+    if ((position.flags & SWP_NOSIZE) || !hasSizeLimits(window))
+        return;
+    const MINMAXINFO limits = getMinMaxInfo(window);
+    position.cx = std::max<int>(std::min<int>(position.cx, limits.ptMaxTrackSize.x), limits.ptMinTrackSize.x);
+    position.cy = std::max<int>(std::min<int>(position.cy, limits.ptMaxTrackSize.y), limits.ptMinTrackSize.y);
+}
+
+void announceChange(LuMemoryWindow& window, const WINDOWPOS& position) {
+    constexpr UINT noClientSize = 0x0800, noClientMove = 0x1000;
+    const HWND handle = getHandle(&window);
+    if (!(position.flags & noClientMove))
+        sendMove(window);
+    if (!(position.flags & noClientSize) && findMemoryWindow(handle))
+        sendSize(window);
+}
+
+LRESULT handleSysCommand(LuMemoryWindow& window, WPARAM wParam) {
+    constexpr WPARAM commandMask = 0xfff0;
+    if ((wParam & commandMask) == SC_CLOSE)
+        sendMessage(window, WM_CLOSE, 0, 0);
+    return 0;
+}
+
+LRESULT handleCreation(LuMemoryWindow& window, LPARAM lParam) {
+    const auto* create = reinterpret_cast<const CREATESTRUCTA*>(lParam);
+    if (create && create->lpszName)
+        window.text = widenAnsi(create->lpszName);
+    return TRUE;
+}
+
+} // namespace
+
+LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+    LuMemoryWindow* window = findMemoryWindow(handle);
+    if (!window)
+        return 0;
+    if (isTextMessage(message & ~wideTextFlag))
+        return handleText(*window, message, wParam, lParam);
+    switch (message) {
+    case WM_NCCREATE:
+        return handleCreation(*window, lParam);
+    case WM_NCCALCSIZE:
+        subtractFrame(*window, *reinterpret_cast<RECT*>(lParam));
+        return 0;
+    case WM_WINDOWPOSCHANGING:
+        limitToTrackSize(*window, *reinterpret_cast<WINDOWPOS*>(lParam));
+        return 0;
+    case WM_WINDOWPOSCHANGED:
+        announceChange(*window, *reinterpret_cast<const WINDOWPOS*>(lParam));
+        return 0;
+    case WM_ACTIVATE:
+        if (LOWORD(wParam) != WA_INACTIVE)
+            SetFocus(handle);
+        return 0;
+    case WM_NCACTIVATE:
+    case WM_ERASEBKGND:
+        return TRUE;
+    case WM_CLOSE:
+        DestroyWindow(handle);
+        return 0;
+    case WM_CANCELMODE:
+        if (getMemoryDesktop().capture == window)
+            ReleaseCapture();
+        return 0;
+    case WM_SYSCOMMAND:
+        return handleSysCommand(*window, wParam);
+    case WM_NCHITTEST:
+        return hitTest(*window, lParam);
+    case WM_PARENTNOTIFY:
+    case WM_MOUSEWHEEL:
+    case WM_SETCURSOR:
+        if (isChildStyle(window->style) && window->parent)
+            return sendMessage(*window->parent, message, wParam, lParam);
+        return 0;
+    case WM_MOUSEACTIVATE:
+        if (isChildStyle(window->style) && window->parent)
+            if (const LRESULT answer = sendMessage(*window->parent, message, wParam, lParam))
+                return answer;
+        return MA_ACTIVATE;
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+        return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+        return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
+    default:
+        return 0;
+    }
+}

@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: MIT
+#include "platform/win32/memory/MemoryWindow.h"
+
+#include <vector>
+
+namespace {
+
+bool contains(const RECT& rect, const POINT& point) {
+    return point.x >= rect.left && point.x < rect.right && point.y >= rect.top && point.y < rect.bottom;
+}
+
+/// The walk behind GetNextDlgTabItem, in the order of the tab key.
+struct TabWalk {
+    const LuMemoryWindow* control = nullptr;
+    const LuMemoryWindow* first = nullptr;
+    const LuMemoryWindow* last = nullptr;
+    const LuMemoryWindow* before = nullptr; ///< The last stop in front of the control.
+    const LuMemoryWindow* after = nullptr;  ///< The first stop behind it.
+    bool isPast = false;
+
+    void visit(const LuMemoryWindow& parent, bool isReachable) {
+        for (const LuMemoryWindow* child = parent.firstChild; child; child = child->below) {
+            const bool reachable =
+                isReachable && (child->style & WS_VISIBLE) && !(child->style & WS_DISABLED);
+            const bool isContainer = (child->exStyle & WS_EX_CONTROLPARENT) != 0;
+            if (child == control)
+                isPast = true;
+            else if (reachable && !isContainer && (child->style & WS_TABSTOP))
+                take(*child);
+            if (isContainer)
+                visit(*child, reachable);
+        }
+    }
+
+    void take(const LuMemoryWindow& stop) {
+        if (!first)
+            first = &stop;
+        last = &stop;
+        if (!isPast)
+            before = &stop;
+        else if (!after)
+            after = &stop;
+    }
+};
+
+LuMemoryWindow* findChildAt(LuMemoryWindow& parent, POINT point, UINT flags) {
+    for (LuMemoryWindow* child = parent.firstChild; child; child = child->below) {
+        if ((flags & CWP_SKIPINVISIBLE) && !(child->style & WS_VISIBLE))
+            continue;
+        if ((flags & CWP_SKIPDISABLED) && (child->style & WS_DISABLED))
+            continue;
+        if (contains(child->rect, point))
+            return child;
+    }
+    return nullptr;
+}
+
+/// The window under a point, given in the parent's client coordinates.
+LuMemoryWindow* findWindowAt(LuMemoryWindow& window, POINT point, POINT screen) {
+    if (!(window.style & WS_VISIBLE) || !contains(window.rect, point))
+        return nullptr;
+    if (window.style & WS_DISABLED)
+        return isChildStyle(window.style) ? nullptr : &window;
+    if (contains(window.client, point)) {
+        const POINT inside{point.x - window.client.left, point.y - window.client.top};
+        for (LuMemoryWindow* child = window.firstChild; child; child = child->below)
+            if (LuMemoryWindow* found = findWindowAt(*child, inside, screen))
+                return found;
+    }
+    const LRESULT hit = sendMessage(window, WM_NCHITTEST, 0, MAKELPARAM(screen.x, screen.y));
+    return hit == HTTRANSPARENT ? nullptr : &window;
+}
+
+bool enumerate(LuMemoryWindow& parent, WNDENUMPROC function, LPARAM data) {
+    // The function may destroy windows: handles are collected first.
+    std::vector<HWND> handles;
+    for (const LuMemoryWindow* child = parent.firstChild; child; child = child->below)
+        handles.push_back(getHandle(child));
+    for (HWND handle : handles) {
+        if (!findMemoryWindow(handle))
+            continue;
+        if (!function(handle, data))
+            return false;
+        LuMemoryWindow* child = findMemoryWindow(handle);
+        if (child && !enumerate(*child, function, data))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+HWND GetParent(HWND handle) {
+    const LuMemoryWindow* window = findMemoryWindowOrFail(handle);
+    if (!window)
+        return nullptr;
+    return getHandle(isChildStyle(window->style) ? window->parent : window->owner);
+}
+
+HWND SetParent(HWND handle, HWND parentHandle) {
+    LuMemoryWindow* window = findMemoryWindowOrFail(handle);
+    LuMemoryWindow* parent = parentHandle ? findMemoryWindowOrFail(parentHandle) : getMemoryDesktop().root;
+    if (!window || !parent || isInside(parent, window)) {
+        if (window && parent)
+            SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    const HWND previous = getHandle(window->parent);
+    const bool wasVisible = (window->style & WS_VISIBLE) != 0;
+    if (wasVisible)
+        ShowWindow(handle, SW_HIDE);
+    unlinkMemoryWindow(*window);
+    window->parent = parent;
+    linkMemoryWindow(*window, nullptr);
+    if (wasVisible)
+        ShowWindow(handle, SW_SHOW);
+    return previous;
+}
+
+HWND GetAncestor(HWND handle, UINT which) {
+    LuMemoryWindow* window = findMemoryWindowOrFail(handle);
+    if (!window || window == getMemoryDesktop().root)
+        return nullptr;
+    if (which == GA_PARENT)
+        return getHandle(window->parent);
+    LuMemoryWindow* root = getRootWindow(window);
+    while (which == GA_ROOTOWNER && root->owner)
+        root = root->owner;
+    return getHandle(root);
+}
+
+HWND GetWindow(HWND handle, UINT which) {
+    const LuMemoryWindow* window = findMemoryWindowOrFail(handle);
+    if (!window)
+        return nullptr;
+    switch (which) {
+    case GW_HWNDFIRST:
+        return getHandle(window->parent ? window->parent->firstChild : nullptr);
+    case GW_HWNDLAST:
+        return getHandle(window->parent ? window->parent->lastChild : nullptr);
+    case GW_HWNDNEXT:
+        return getHandle(window->below);
+    case GW_HWNDPREV:
+        return getHandle(window->above);
+    case GW_OWNER:
+        return getHandle(window->owner);
+    case GW_CHILD:
+        return getHandle(window->firstChild);
+    default:
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+}
+
+BOOL IsChild(HWND parentHandle, HWND handle) {
+    const LuMemoryWindow* parent = findMemoryWindow(parentHandle);
+    const LuMemoryWindow* window = findMemoryWindow(handle);
+    if (!parent || !window || !isChildStyle(window->style))
+        return FALSE;
+    return isInside(window->parent, parent);
+}
+
+HWND FindWindowA(LPCSTR className, LPCSTR title) {
+    const LuMemoryWindowClass* type = className ? findMemoryClass(className, nullptr) : nullptr;
+    if (className && !type)
+        return nullptr;
+    const std::wstring text = title ? widenAnsi(title) : std::wstring();
+    for (const LuMemoryWindow* top = getMemoryDesktop().root->firstChild; top; top = top->below)
+        if ((!type || top->windowClass == type) && (!title || top->text == text))
+            return getHandle(top);
+    return nullptr;
+}
+
+BOOL EnumChildWindows(HWND parentHandle, WNDENUMPROC function, LPARAM data) {
+    LuMemoryWindow* parent = parentHandle ? findMemoryWindowOrFail(parentHandle) : getMemoryDesktop().root;
+    return parent && function && enumerate(*parent, function, data);
+}
+
+HWND GetDlgItem(HWND parentHandle, int id) {
+    const LuMemoryWindow* parent = findMemoryWindowOrFail(parentHandle);
+    if (!parent)
+        return nullptr;
+    for (const LuMemoryWindow* child = parent->firstChild; child; child = child->below)
+        if (static_cast<int>(child->id) == id)
+            return getHandle(child);
+    return nullptr;
+}
+
+int GetDlgCtrlID(HWND handle) {
+    const LuMemoryWindow* window = findMemoryWindowOrFail(handle);
+    return window ? static_cast<int>(window->id) : 0;
+}
+
+HWND GetNextDlgTabItem(HWND dialogHandle, HWND controlHandle, BOOL previous) {
+    LuMemoryWindow* dialog = findMemoryWindowOrFail(dialogHandle);
+    if (!dialog)
+        return nullptr;
+    LuMemoryWindow* control = nullptr;
+    if (controlHandle && controlHandle != dialogHandle) {
+        control = findMemoryWindowOrFail(controlHandle);
+        if (!control || !IsChild(dialogHandle, controlHandle))
+            return nullptr;
+    }
+    TabWalk walk;
+    walk.control = control;
+    walk.visit(*dialog, true);
+    const LuMemoryWindow* next = previous ? walk.before : walk.after;
+    if (!next)
+        next = previous ? walk.last : walk.first;
+    return next ? getHandle(next) : controlHandle;
+}
+
+HWND WindowFromPoint(POINT point) {
+    LuMemoryWindow* root = getMemoryDesktop().root;
+    return getHandle(findWindowAt(*root, point, point));
+}
+
+HWND ChildWindowFromPointEx(HWND parentHandle, POINT point, UINT flags) {
+    LuMemoryWindow* parent = findMemoryWindowOrFail(parentHandle);
+    if (!parent)
+        return nullptr;
+    const RECT& client = parent->client;
+    if (!contains({0, 0, client.right - client.left, client.bottom - client.top}, point))
+        return nullptr;
+    LuMemoryWindow* child = findChildAt(*parent, point, flags);
+    return child ? getHandle(child) : parentHandle;
+}
+
+HWND ChildWindowFromPoint(HWND parent, POINT point) { return ChildWindowFromPointEx(parent, point, CWP_ALL); }
