@@ -106,6 +106,13 @@ void notifyParent(LuMemoryWindow& window, UINT event) {
                     reinterpret_cast<LPARAM>(getHandle(&window)));
 }
 
+void finishDestroy(LuMemoryWindow& window) {
+    while (window.firstChild)
+        finishDestroy(*window.firstChild);
+    if (sendAndCheck(window, WM_NCDESTROY, 0, 0))
+        forgetWindow(window);
+}
+
 /// The messages of a creation; false if the window has refused or has gone.
 bool announce(LuMemoryWindow& window, const Request& request, const wchar_t* wideTitle) {
     const HWND handle = getHandle(&window);
@@ -132,7 +139,7 @@ bool announce(LuMemoryWindow& window, const Request& request, const wchar_t* wid
     if (!findMemoryWindow(handle))
         return false;
     if (created == -1) {
-        DestroyWindow(handle);
+        finishDestroy(window);
         return false;
     }
     return true;
@@ -150,7 +157,7 @@ HWND createWindow(Request& request, LPCSTR className, const wchar_t* wideTitle) 
         create.hInstance = GetModuleHandleA(nullptr);
     request.windowClass = findMemoryClass(className, create.hInstance);
     if (!request.windowClass) {
-        SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
+        SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
         return nullptr;
     }
     if (!findParent(request))
@@ -194,13 +201,6 @@ void sendDestroy(LuMemoryWindow& window) {
             return;
         child = findMemoryWindow(childHandle) ? child->below : window.firstChild;
     }
-}
-
-void finishDestroy(LuMemoryWindow& window) {
-    while (window.firstChild)
-        finishDestroy(*window.firstChild);
-    if (sendAndCheck(window, WM_NCDESTROY, 0, 0))
-        forgetWindow(window);
 }
 
 void destroyOwned(LuMemoryWindow& window) {

@@ -73,8 +73,6 @@ void passActivationOn(LuMemoryWindow& window) {
         return;
     if (desktop.active == &window)
         activateWindow(findNextActive(window));
-    if (findMemoryWindow(handle) && desktop.focus && isInside(desktop.focus, &window))
-        changeFocus(isChildStyle(window.style) && canHaveFocus(*window.parent) ? window.parent : nullptr);
 }
 
 HWND SetFocus(HWND handle) {

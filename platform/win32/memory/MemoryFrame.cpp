@@ -126,7 +126,8 @@ BOOL GetTitleBarInfo(HWND handle, TITLEBARINFO* info) {
     bar.bottom = bar.top + (hasCaption(window->style) ? getCaptionHeight(window->exStyle) : 0);
     const DWORD buttons = window->style & (WS_MINIMIZEBOX | WS_MAXIMIZEBOX);
     const bool hasMenu = (window->style & WS_SYSMENU) != 0;
-    if (hasMenu && hasCaption(window->style) && !(window->exStyle & (WS_EX_TOOLWINDOW | WS_EX_DLGMODALFRAME)))
+    // The frame draws the program's icon there.
+    if (hasCaption(window->style) && !(window->exStyle & (WS_EX_TOOLWINDOW | WS_EX_DLGMODALFRAME)))
         bar.left += GetSystemMetrics(SM_CXSIZE);
     info->rcTitleBar = bar;
     for (DWORD& state : info->rgstate)

@@ -134,7 +134,7 @@ BOOL ShowScrollBar(HWND handle, int bar, BOOL show) {
 
 BOOL ScrollWindow(HWND handle, int dx, int dy, const RECT* rect, const RECT*) {
     LuMemoryWindow* window = findMemoryWindowOrFail(handle);
-    if (!window)
+    if (!window || !isShown(*window))
         return FALSE;
     // A rectangle limits the scrolling to pixels, and there are none.
     if (rect || (dx == 0 && dy == 0))

@@ -71,6 +71,13 @@ BOOL GetVersionExA(OSVERSIONINFOA* info) {
 
 HMODULE GetModuleHandleA(LPCSTR name) { return name ? nullptr : asHandle<HMODULE>(s_module); }
 
+BOOL GetModuleHandleExA(DWORD, LPCSTR, HMODULE* module) {
+    if (!module)
+        return FALSE;
+    *module = GetModuleHandleA(nullptr);
+    return TRUE;
+}
+
 DWORD GetModuleFileNameA(HMODULE, LPSTR name, DWORD size) {
     constexpr char path[] = "C:\\panelix.exe";
     if (!name || size == 0)
@@ -93,6 +100,8 @@ HICON LoadIconA(HINSTANCE, LPCSTR name) { return name ? asHandle<HICON>(s_icon) 
 BOOL DestroyIcon(HICON icon) { return icon != nullptr; }
 
 HCURSOR LoadCursorA(HINSTANCE, LPCSTR name) { return name ? asHandle<HCURSOR>(s_cursor) : nullptr; }
+
+int MessageBoxA(HWND, LPCSTR, LPCSTR, UINT) { return 0; }
 
 HMENU GetMenu(HWND window) {
     findMemoryWindowOrFail(window);

@@ -10,35 +10,40 @@ bool contains(const RECT& rect, const POINT& point) {
 }
 
 /// The walk behind GetNextDlgTabItem, in the order of the tab key.
+///
+/// A hidden or disabled container closes off what is in it, but not for a control that is in it already. What
+/// is inside the control itself is neither before nor behind it.
 struct TabWalk {
     const LuMemoryWindow* control = nullptr;
     const LuMemoryWindow* first = nullptr;
     const LuMemoryWindow* last = nullptr;
     const LuMemoryWindow* before = nullptr; ///< The last stop in front of the control.
     const LuMemoryWindow* after = nullptr;  ///< The first stop behind it.
-    bool isPast = false;
+    enum class Place { BEFORE, INSIDE, BEHIND } place = Place::BEFORE;
 
-    void visit(const LuMemoryWindow& parent, bool isReachable) {
+    /// `isOpen` tells whether a user can get into `parent` at all, `isNear` whether the control can.
+    void visit(const LuMemoryWindow& parent, bool isOpen, bool isNear) {
         for (const LuMemoryWindow* child = parent.firstChild; child; child = child->below) {
-            const bool reachable =
-                isReachable && (child->style & WS_VISIBLE) && !(child->style & WS_DISABLED);
-            const bool isContainer = (child->exStyle & WS_EX_CONTROLPARENT) != 0;
+            const bool isUsable = (child->style & WS_VISIBLE) && !(child->style & WS_DISABLED);
             if (child == control)
-                isPast = true;
-            else if (reachable && !isContainer && (child->style & WS_TABSTOP))
-                take(*child);
-            if (isContainer)
-                visit(*child, reachable);
+                place = Place::INSIDE;
+            if (child->exStyle & WS_EX_CONTROLPARENT)
+                visit(*child, isOpen && isUsable, isNear && (isUsable || isInside(control, child)));
+            else if (isUsable && (child->style & WS_TABSTOP))
+                take(*child, isOpen, isNear);
+            if (child == control)
+                place = Place::BEHIND;
         }
     }
 
-    void take(const LuMemoryWindow& stop) {
-        if (!first)
+    void take(const LuMemoryWindow& stop, bool isOpen, bool isNear) {
+        if (isOpen && !first)
             first = &stop;
-        last = &stop;
-        if (!isPast)
+        if (isOpen)
+            last = &stop;
+        if (isNear && place == Place::BEFORE)
             before = &stop;
-        else if (!after)
+        else if (isNear && place == Place::BEHIND && !after)
             after = &stop;
     }
 };
@@ -195,16 +200,16 @@ HWND GetNextDlgTabItem(HWND dialogHandle, HWND controlHandle, BOOL previous) {
     LuMemoryWindow* dialog = findMemoryWindowOrFail(dialogHandle);
     if (!dialog)
         return nullptr;
-    LuMemoryWindow* control = nullptr;
-    if (controlHandle && controlHandle != dialogHandle) {
-        control = findMemoryWindowOrFail(controlHandle);
-        if (!control || !IsChild(dialogHandle, controlHandle))
-            return nullptr;
-    }
+    // Without a control there is a first stop, but none before it.
+    const bool hasStart = controlHandle && controlHandle != dialogHandle;
+    if (!hasStart && previous)
+        return nullptr;
     TabWalk walk;
-    walk.control = control;
-    walk.visit(*dialog, true);
-    const LuMemoryWindow* next = previous ? walk.before : walk.after;
+    walk.control = IsChild(dialogHandle, controlHandle) ? findMemoryWindow(controlHandle) : nullptr;
+    walk.visit(*dialog, true, true);
+    const LuMemoryWindow* next = nullptr;
+    if (walk.control)
+        next = previous ? walk.before : walk.after;
     if (!next)
         next = previous ? walk.last : walk.first;
     return next ? getHandle(next) : controlHandle;

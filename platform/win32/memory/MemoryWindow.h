@@ -86,7 +86,7 @@ LuMemoryWindow* findMemoryWindow(HWND handle);
 /// The same, and the last error tells when there is none.
 LuMemoryWindow* findMemoryWindowOrFail(HWND handle);
 
-/// The handle of a window; null for null, and for the desktop window.
+/// The handle of a window; null for null.
 inline HWND getHandle(const LuMemoryWindow* window) {
     if (!window)
         return nullptr;

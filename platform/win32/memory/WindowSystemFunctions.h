@@ -131,6 +131,9 @@ HACCEL CreateAcceleratorTableA(ACCEL* accelerators, int count);
 BOOL DestroyAcceleratorTable(HACCEL table);
 int TranslateAcceleratorA(HWND window, HACCEL table, MSG* message);
 
+/// There is no user to answer: it fails, with 0.
+int MessageBoxA(HWND parent, LPCSTR text, LPCSTR title, UINT flags);
+
 // Menus: until menus can be made, a window has none and every handle of one is invalid.
 HMENU GetMenu(HWND window);
 BOOL GetMenuItemInfoA(HMENU menu, UINT item, BOOL byPosition, MENUITEMINFOA* info);
@@ -157,6 +160,7 @@ int GetDeviceCaps(HDC dc, int index);
 
 // The system.
 HMODULE GetModuleHandleA(LPCSTR name);
+BOOL GetModuleHandleExA(DWORD flags, LPCSTR name, HMODULE* module);
 DWORD GetModuleFileNameA(HMODULE module, LPSTR name, DWORD size);
 DWORD_PTR SHGetFileInfoA(LPCSTR path, DWORD attributes, SHFILEINFOA* info, UINT size, UINT flags);
 HICON LoadIconA(HINSTANCE instance, LPCSTR name);
