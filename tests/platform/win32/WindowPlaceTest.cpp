@@ -134,7 +134,7 @@ INSTANTIATE_TEST_SUITE_P(
                     FrameCase{"bothBars", WS_CHILD | WS_HSCROLL | WS_VSCROLL, 0, 0, {183, 83}},
                     FrameCase{"staticEdgeOfAnOverlapped", 0x06CF0000, WS_EX_STATICEDGE, 0x20100, {194, 75}},
                     FrameCase{"topmostChild", WS_CHILD, WS_EX_TOPMOST, 0, {200, 100}}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(WindowPlace, frameLargerThanTheWindow_leavesAnEmptyClientArea) {
     HWND top = createTop();
@@ -257,7 +257,7 @@ INSTANTIATE_TEST_SUITE_P(
                         0x100,
                         {71, 63, 347, 82},
                         {0x100000, hiddenButton, hiddenButton, hiddenButton, hiddenButton, hiddenButton}}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(WindowPlace, titleBarInfoWithoutItsSize_isRefused) {
     HWND window = createTop();

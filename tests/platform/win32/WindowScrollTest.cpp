@@ -90,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ScrollCase{"neverHidden", 31 | SIF_DISABLENOSCROLL, 0, 10, 50, 0, 0, 10, 11, 0, true},
                     ScrollCase{"largest", 23, 0, 2147483646, 100, 2147483600, 0, 2147483646, 100, 2147483547,
                                true}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(WindowScroll, barThatAppears_takesRoomFromTheClientArea) {
     set(SIF_ALL, 0, 500, 100, 0);
