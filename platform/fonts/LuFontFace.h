@@ -46,7 +46,9 @@ public:
 
     virtual ~LuFontFace() = default;
 
-    /// The measures of a character, from a cache.
+    /// The measures of a character, from a cache: the reference holds until the process ends. A character
+    /// that the face lacks is taken from another font of the system, from the face's sign for a missing one
+    /// when no font has it.
     virtual const LuGlyphMetrics& getGlyphMetrics(char32_t character) const = 0;
 
     /// The outline of a character; empty for a space.
@@ -57,6 +59,8 @@ public:
     virtual float getDescent() const = 0;
 
     /// Extent of one line of UTF-8 text as the window system draws it at a font height of `pixels` (the em
-    /// size, CreateFont's negative height): hinted advances, height of a line.
+    /// size, CreateFont's negative height): hinted advances without kerning, height of a line. Characters
+    /// that the face lacks count as its sign for a missing one, each byte that is no valid UTF-8 as U+FFFD.
+    /// Nothing at all when `pixels` is not above 0.
     virtual LuPixelExtent getTextExtent(std::string_view text, int pixels) const = 0;
 };

@@ -83,6 +83,15 @@ private:
         m_config = FcInitLoadConfigAndFonts();
         if (m_config && !std::getenv("FONTCONFIG_FILE"))
             FcConfigAppFontAddDir(m_config, fcText(WINE_FONTS));
+        // Fontconfig hides its pointers from leak detectors: what it holds has to be given back. Fonts that
+        // are open stay so.
+        std::atexit([] { get().closeConfiguration(); });
+    }
+
+    void closeConfiguration() {
+        if (m_config)
+            FcConfigDestroy(m_config);
+        m_config = nullptr;
     }
 
     /// Upright outlines of a family; with the wish for a character unless it is 0.

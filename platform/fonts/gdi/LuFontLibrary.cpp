@@ -45,9 +45,11 @@ public:
 
     LuFontSource* findFamily(std::string_view family, bool& isExact) {
         const std::wstring name = LvString(std::string(family)).toWide();
-        isExact = !name.empty() && !listFamilies(name).empty();
-        // Some family of its choice is what GDI gives for a name that it does not know.
-        return open(isExact ? name : std::wstring());
+        const Families families = name.empty() ? Families() : listFamilies(name);
+        isExact = !families.empty();
+        // By the spelling of the system, so that a font is opened once. Some family of its choice is what GDI
+        // gives without a name.
+        return open(isExact ? *families.begin() : std::wstring());
     }
 
     LuFontSource* findCharacter(char32_t character) {
