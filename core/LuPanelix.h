@@ -260,6 +260,9 @@ protected:
     /// there is none.
     static LuGroup* readFromFile(const LvString& file);
 
+    /// Takes the skin that the settings name, when none has been taken yet.
+    static void selectSkin();
+
     /// Reads a skin file, or `text` with a message when there is none.
     static void readDefaultSkinsParts(const LvString& file, const char* text);
     friend class LuSkin;

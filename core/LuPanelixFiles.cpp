@@ -2,7 +2,6 @@
 #include "core/LuLoadedFiles.h"
 #include "core/LuPanelix.h"
 #include "platform/lumora/base/LuDebugError.h"
-#include "platform/lumora/base/LuPreferences.h"
 #include "platform/lumora/io/LuDB.h"
 #include "platform/lumora/io/LuInput.h"
 
@@ -36,8 +35,7 @@ LuGroup* LuPanelix::readFromFile(const LvString& file) {
     for (int i = 0; i < searched.getLength(); ++i)
         directories.push_back(*searched[i]);
     LuInput::clearDirectories();
-    if (s_skinsPath.isEmpty())
-        setSkin(LuPreferences::getString("PANELIX_SKIN", "default"));
+    selectSkin();
     LuInput::addDirectoryFirst(s_skinsPath);
     LuGroup* root = nullptr;
     LuInput input;

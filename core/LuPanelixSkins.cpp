@@ -34,6 +34,11 @@ bool isUsable(const LvString& path) { return LvFileHelper::isAccessible(path, 0)
 void LuSkin::loadOnFirstUse() {
     if (!m_isFirstRead || m_isLoaded)
         return;
+    // The first use of any class takes the skin that the settings name, which reads this file among all: a
+    // second reading would leave two groups of each name.
+    LuPanelix::selectSkin();
+    if (m_isLoaded)
+        return;
     LuPanelix::readDefaultSkinsParts(m_file, m_text);
     m_isLoaded = 1;
     m_isFirstRead = false;
@@ -100,13 +105,25 @@ void LuPanelix::free3DSkin(LvString part) {
 
 void LuPanelix::load3DSkin(LvString part) {
     LuGroup* const group = findGroup(getTemporaryName(part));
-    LuGroup* const fresh = findGroup(part);
-    if (!group || !fresh)
+    // The group just read is the last of its name. None may keep the name beside the group in use.
+    const std::vector<LuBase*> named = LuBase::getNamed(part);
+    LuGroup* fresh = nullptr;
+    for (LuBase* base : named) {
+        if (group && base->isOfType(LuGroup::getClassTypeId())) {
+            fresh = static_cast<LuGroup*>(base);
+            fresh->setName({});
+        }
+    }
+    if (!fresh)
         return;
     for (int i = 0; i < fresh->getNumChildren(); ++i)
         group->addChild(fresh->getChild(i));
-    fresh->setName({});
     group->setName(part);
+}
+
+void LuPanelix::selectSkin() {
+    if (s_skinsPath.isEmpty())
+        setSkin(LuPreferences::getString("PANELIX_SKIN", "default"));
 }
 
 void LuPanelix::change3DSkin() {
