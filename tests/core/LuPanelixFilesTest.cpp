@@ -79,7 +79,7 @@ TEST_F(DialogFileTest, ComponentsDeeperInTheFileAreNotFound) {
 }
 
 TEST_F(DialogFileTest, MissingFileIsNull) {
-    expectMessageContaining("LuInput", "no-such-file.lum");
+    expectMessageContaining("LuInput::openFile", "no-such-file.lum");
     EXPECT_EQ(LuPanelix::loadFromFile("no-such-file.lum", ""), nullptr);
 }
 

@@ -16,6 +16,7 @@ protected:
     std::string makeSkin(const std::string& name, int fontSize) {
         const std::filesystem::path folder = std::filesystem::path(getTestOutputFolder()) / "skins" / name;
         std::filesystem::remove_all(folder);
+        std::filesystem::create_directories(folder);
         std::filesystem::copy("data/Panelix/skins/default", folder);
         std::ofstream(folder / "TextProperties.lum")
             << "#Lumora V2.0 ascii\nDEF DialogTextProperties Group { Font { size " << fontSize << " } }\n";

@@ -9,6 +9,8 @@ namespace {
 
 class MemoryWindowSystem : public WindowFixture {
 protected:
+    // Tests that ran before in this process may have left windows that are kept to its end.
+    MemoryWindowSystem() { LuMemoryWindowSystem::reset(); }
     void TearDown() override {
         WindowFixture::TearDown();
         LuMemoryWindowSystem::reset();
