@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-/// A text, UTF-8 within. Lengths and positions count bytes.
+/// A text, UTF-8 within. Lengths and positions count bytes. A null pointer stands for the empty text.
 class LvString {
 public:
     /// What find returns when there is nothing to find.
@@ -46,7 +46,8 @@ public:
         return *this;
     }
     LvString& operator+=(const char* text) {
-        m_text += text;
+        if (text)
+            m_text += text;
         return *this;
     }
     LvString& operator+=(char character) {
@@ -60,7 +61,9 @@ public:
     friend bool operator==(const LvString& left, const LvString& right) {
         return left.m_text == right.m_text;
     }
-    friend bool operator==(const LvString& left, const char* right) { return left.m_text == right; }
+    friend bool operator==(const LvString& left, const char* right) {
+        return left.m_text == std::string_view(right ? right : "");
+    }
 
 private:
     std::string m_text;

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <limits>
 
-/// A pair of whole numbers: sizes and positions in pixels, y down in windows.
+/// A pair of whole numbers: sizes and positions in pixels, y down in windows. Results that no int can hold
+/// stop at its limits: 2147483647 stands for "no limit" in sizes and stays so in sums.
 class LvVec2i32 {
 public:
     int x = 0, y = 0;
@@ -20,21 +23,30 @@ public:
     int operator[](int axis) const { return axis == 0 ? x : y; }
 
     LvVec2i32& operator+=(const LvVec2i32& other) {
-        x += other.x;
-        y += other.y;
+        x = limit(std::int64_t{x} + other.x);
+        y = limit(std::int64_t{y} + other.y);
         return *this;
     }
     /// Scales both numbers; the products are truncated to whole numbers.
     LvVec2i32& operator*=(double factor) {
-        x = static_cast<int>(x * factor);
-        y = static_cast<int>(y * factor);
+        x = limit(x * factor);
+        y = limit(y * factor);
         return *this;
     }
     friend LvVec2i32 operator+(LvVec2i32 left, const LvVec2i32& right) { return left += right; }
     friend LvVec2i32 operator-(const LvVec2i32& left, const LvVec2i32& right) {
-        return {left.x - right.x, left.y - right.y};
+        return {limit(std::int64_t{left.x} - right.x), limit(std::int64_t{left.y} - right.y)};
     }
     friend bool operator==(const LvVec2i32&, const LvVec2i32&) = default;
+
+private:
+    template <class Number>
+    static int limit(Number number) {
+        constexpr auto LOWEST = static_cast<Number>(std::numeric_limits<int>::min());
+        constexpr auto HIGHEST = static_cast<Number>(std::numeric_limits<int>::max());
+        // A number that differs from itself is none, and has no nearest int.
+        return number != number ? 0 : static_cast<int>(std::clamp(number, LOWEST, HIGHEST));
+    }
 };
 
 class LvVec2f {
