@@ -13,6 +13,7 @@ public:
     LvName() = default;
     LvName(const char* text) : LvName(std::string_view(text)) {}
     LvName(const LvString& text) : LvName(text.view()) {}
+    LvName(const std::string& text) : LvName(std::string_view(text)) {}
     LvName(std::string_view text);
 
     /// The name of this text if it has been interned before, else the empty name. Adds nothing, so a hostile

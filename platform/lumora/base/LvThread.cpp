@@ -49,9 +49,9 @@ LvThread* LvThread::create(Function function, void* data) {
     joinEnded();
     std::unique_ptr<LvThread> thread(new LvThread);
     LvThread* const started = thread.get();
-    const std::lock_guard joining(started->m_joining);
     try {
         started->m_thread = std::thread([started, function, data] {
+            started->m_id = getCurrentThreadId();
             function(data);
             started->m_hasEnded = true;
         });
@@ -66,7 +66,7 @@ LvThread* LvThread::create(Function function, void* data) {
 }
 
 void LvThread::join() {
-    if (m_thread.get_id() == std::this_thread::get_id()) {
+    if (m_id == getCurrentThreadId()) {
         LuDebugError::post("LvThread::join", "A thread cannot wait for its own end.");
         return;
     }

@@ -56,5 +56,6 @@ private:
 
     std::thread m_thread;
     std::mutex m_joining;
+    std::atomic<std::uint64_t> m_id = 0; ///< 0 until the thread runs.
     std::atomic<bool> m_hasEnded = false;
 };

@@ -10,11 +10,13 @@ LvRotation::LvRotation(const LvVec3f& axis, float angle) {
 }
 
 void LvRotation::getAxisAngle(LvVec3f& axis, float& angle) const {
-    // A quaternion and its negative turn alike; the one with the positive w has the angle up to pi.
-    const float sign = w < 0 ? -1.0F : 1.0F;
+    // A quaternion and its negative turn alike; the one with the positive w has the angle up to pi. A half
+    // turn keeps the axis that it was made with, though its w may come out a little below 0.
+    constexpr float ROUNDING = 1e-6F;
+    const float sign = w < -ROUNDING ? -1.0F : 1.0F;
     axis = LvVec3f(x, y, z) * sign;
     const float length = axis.length();
-    angle = 2 * std::atan2(length, w * sign);
+    angle = 2 * std::atan2(length, std::max(w * sign, 0.0F));
     if (length > 0)
         axis *= 1 / length;
     else

@@ -3,9 +3,11 @@
 
 #include "tests/host/TestHost.h"
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <new>
 
 namespace {
@@ -55,10 +57,11 @@ TEST(LvThreadMutex, heldMutex_keepsOthersOut) {
     EXPECT_TRUE(waiter.hasPassed);
 }
 
-// Stands for a static mutex of a source file whose turn has not come.
+// Stands for a static mutex of a source file whose turn has not come: all zeros.
 alignas(LvThreadMutex) unsigned char s_unconstructed[sizeof(LvThreadMutex)];
 
 TEST(LvThreadMutex, beforeItsConstructor_locksNothing) {
+    std::fill(std::begin(s_unconstructed), std::end(s_unconstructed), static_cast<unsigned char>(0));
     auto* const early = reinterpret_cast<LvThreadMutex*>(s_unconstructed);
     early->lock();
     early->lock(); // would wait for ever, had the first one locked
