@@ -31,55 +31,39 @@ LuMemoryDesktop& getMemoryDesktop() {
     return *s_desktop;
 }
 
-LuMemoryWindow* findMemoryWindow(HWND handle) {
-    LuMemoryDesktop& desktop = getMemoryDesktop();
-    const auto value = reinterpret_cast<std::uint64_t>(handle);
-    const auto index = static_cast<std::uint32_t>(value) - LuMemoryDesktop::firstHandle;
-    if (index >= desktop.numSlots)
-        return nullptr;
-    LuMemoryWindow* window =
-        &desktop.chunks[index >> LuMemoryDesktop::chunkBits][index & (LuMemoryDesktop::chunkSize - 1)];
-    const auto generation = static_cast<std::uint32_t>(value >> 32);
-    return window->generation == generation && (generation & 1) ? window : nullptr;
-}
-
-LuMemoryWindow* findMemoryWindowOrFail(HWND handle) {
-    LuMemoryWindow* window = findMemoryWindow(handle);
-    if (!window)
-        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-    return window;
-}
-
 LuMemoryWindow* allocateMemoryWindow() {
     LuMemoryDesktop& desktop = getMemoryDesktop();
+    LuMemorySlots& slots = s_memorySlots;
     std::uint32_t index;
     if (!desktop.freeSlots.empty()) {
         index = desktop.freeSlots.back();
         desktop.freeSlots.pop_back();
     } else {
-        index = desktop.numSlots;
-        const std::uint32_t chunk = index >> LuMemoryDesktop::chunkBits;
-        if (chunk >= LuMemoryDesktop::maxChunks)
+        index = slots.numSlots;
+        const std::uint32_t chunk = index >> LuMemorySlots::chunkBits;
+        if (chunk >= LuMemorySlots::maxChunks)
             return nullptr;
-        if (!desktop.chunks[chunk])
-            desktop.chunks[chunk] = new LuMemoryWindow[LuMemoryDesktop::chunkSize];
-        ++desktop.numSlots;
+        if (!slots.chunks[chunk])
+            slots.chunks[chunk] = new LuMemoryWindow[LuMemorySlots::chunkSize];
+        desktop.generations.push_back(0);
+        slots.generations = desktop.generations.data();
+        ++slots.numSlots;
     }
+    const std::uint64_t generation = ++slots.generations[index];
+    const std::uint64_t place = std::uint64_t{index} + LuMemorySlots::firstHandle;
     LuMemoryWindow* window =
-        &desktop.chunks[index >> LuMemoryDesktop::chunkBits][index & (LuMemoryDesktop::chunkSize - 1)];
-    window->index = index;
-    ++window->generation;
+        slots.chunks[index >> LuMemorySlots::chunkBits] + (index & (LuMemorySlots::chunkSize - 1));
+    window->handle = reinterpret_cast<HWND>(generation << 32 | place);
     ++desktop.numWindows;
     return window;
 }
 
 void freeMemoryWindow(LuMemoryWindow& window) {
     LuMemoryDesktop& desktop = getMemoryDesktop();
-    const std::uint32_t index = window.index;
-    const std::uint32_t generation = window.generation + 1;
+    const auto value = reinterpret_cast<std::uint64_t>(window.handle);
+    const auto index = static_cast<std::uint32_t>(value) - LuMemorySlots::firstHandle;
     window = LuMemoryWindow{};
-    window.index = index;
-    window.generation = generation;
+    ++s_memorySlots.generations[index];
     desktop.freeSlots.push_back(index);
     --desktop.numWindows;
 }

@@ -30,8 +30,7 @@ struct LuMemoryScrollBar {
 /// A window. Its rectangles are relative to the client area of its parent, so that moving a parent touches no
 /// child.
 struct LuMemoryWindow {
-    std::uint32_t generation = 0; ///< Odd while the window lives; part of its handle.
-    std::uint32_t index = 0;      ///< Slot of the window; the other part of its handle.
+    HWND handle = nullptr; ///< The slot of the window, and how often it has been used.
     DWORD style = 0, exStyle = 0;
     RECT rect{}, client{};
     WNDPROC procedure = nullptr;
@@ -57,13 +56,22 @@ struct LuMemoryWindow {
 /// A private form of WM_SETTEXT, WM_GETTEXT and WM_GETTEXTLENGTH with wide text, for built-in procedures.
 inline constexpr UINT wideTextFlag = 0x80000000;
 
-/// Everything that belongs to the session as a whole.
-struct LuMemoryDesktop {
+/// Where the windows are. Windows never move, so pointers to them stay good. The generations stand apart:
+/// whether a handle is valid is asked all the time, and mostly for windows that are not touched then.
+struct LuMemorySlots {
     static constexpr std::uint32_t chunkBits = 10, chunkSize = 1u << chunkBits, maxChunks = 4096;
     static constexpr std::uint32_t firstHandle = 0x10000;
 
-    LuMemoryWindow* chunks[maxChunks] = {}; ///< Windows never move: pointers to them stay good.
+    LuMemoryWindow* chunks[maxChunks] = {};
+    std::uint32_t* generations = nullptr; ///< Odd while the window of the slot lives.
     std::uint32_t numSlots = 0;
+};
+
+inline constinit LuMemorySlots s_memorySlots;
+
+/// Everything else that belongs to the session as a whole.
+struct LuMemoryDesktop {
+    std::vector<std::uint32_t> generations; ///< The storage behind the slots.
     std::vector<std::uint32_t> freeSlots;
     int numWindows = 0;
     LuMemoryWindow* root = nullptr; ///< The desktop window, parent of all top-level windows.
@@ -81,18 +89,27 @@ struct LuMemoryDesktop {
 /// The session; it comes into being with the first call, also during static initialisation.
 LuMemoryDesktop& getMemoryDesktop();
 
-/// The window of a handle, or null. Costs two loads: it stands at the beginning of every function.
-LuMemoryWindow* findMemoryWindow(HWND handle);
+/// The window of a handle, or null. It stands at the beginning of every function and allocates nothing.
+inline LuMemoryWindow* findMemoryWindow(HWND handle) {
+    const LuMemorySlots& slots = s_memorySlots;
+    const auto value = reinterpret_cast<std::uint64_t>(handle);
+    const auto index = static_cast<std::uint32_t>(value) - LuMemorySlots::firstHandle;
+    const auto generation = static_cast<std::uint32_t>(value >> 32);
+    if (index >= slots.numSlots || slots.generations[index] != generation || !(generation & 1))
+        return nullptr;
+    return slots.chunks[index >> LuMemorySlots::chunkBits] + (index & (LuMemorySlots::chunkSize - 1));
+}
+
 /// The same, and the last error tells when there is none.
-LuMemoryWindow* findMemoryWindowOrFail(HWND handle);
+inline LuMemoryWindow* findMemoryWindowOrFail(HWND handle) {
+    LuMemoryWindow* window = findMemoryWindow(handle);
+    if (!window)
+        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+    return window;
+}
 
 /// The handle of a window; null for null.
-inline HWND getHandle(const LuMemoryWindow* window) {
-    if (!window)
-        return nullptr;
-    const auto low = static_cast<std::uint64_t>(window->index) + LuMemoryDesktop::firstHandle;
-    return reinterpret_cast<HWND>(static_cast<std::uint64_t>(window->generation) << 32 | low);
-}
+inline HWND getHandle(const LuMemoryWindow* window) { return window ? window->handle : nullptr; }
 
 inline bool isChildStyle(DWORD style) { return (style & (WS_CHILD | WS_POPUP)) == WS_CHILD; }
 
