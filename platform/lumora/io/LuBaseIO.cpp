@@ -112,12 +112,12 @@ bool readBinaryHeader(LuInput* in, LuType wanted, Header& header, bool& isEmpty)
     if (!checkType(in, header, wanted))
         return false;
     std::int32_t flags = 0;
-    if (!in->read(flags) || !in->read(header.name))
+    if (!in->read(flags))
         return false;
     if (flags & ~HAS_CHILDREN)
         return in->postError("found the flags %d, expected 0 or 2", flags);
     header.flags = static_cast<unsigned short>(flags);
-    return true;
+    return in->read(header.name);
 }
 
 /// After the fields and children of a text: the closing brace and nothing else.

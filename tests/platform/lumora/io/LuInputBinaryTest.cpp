@@ -43,8 +43,8 @@ TEST(BinaryFile, versionOne_endsChildrenWithMinusOne) {
         return object("Separator", HAS_CHILDREN, "", 0, version).number(0);
     };
     EXPECT_EQ(faultOf(group("1.0").number(0xFFFFFFFF)), "it was read");
-    EXPECT_EQ(faultOf(group("1.0").number(5)), "55: found 5, expected -1 after the children");
-    EXPECT_EQ(faultOf(group("1.0")), "55: the file ends within a value");
+    EXPECT_EQ(faultOf(group("1.0").number(5)), "52: found 5, expected -1 after the children");
+    EXPECT_EQ(faultOf(group("1.0")), "52: the file ends within a value");
     EXPECT_EQ(faultOf(group("2.0")), "it was read");
 }
 
@@ -58,17 +58,17 @@ TEST(BinaryFile, faults_areReportedWithTheirPlace) {
     EXPECT_EQ(faultOf(object("Cub", 0, "", 0)),
               "24: found the type \"Cub\", expected a type of Node; is the type \"Cube\" meant?");
     EXPECT_EQ(faultOf(object("Cube", 0, "", 1).text("widht").number(0).number(0)),
-              "43: found \"widht\", expected a field of Cube; is the field \"width\" meant?");
+              "44: found \"widht\", expected a field of Cube; is the field \"width\" meant?");
     EXPECT_EQ(faultOf(object("Cube", 0, "", 1).text("width").number(0).number(NOT_A_NUMBER)),
-              "55: found a number that is not finite");
-    EXPECT_EQ(faultOf(object("Cube", 5, "", 0)), "32: found the flags 5, expected 0 or 2");
+              "56: found a number that is not finite");
+    EXPECT_EQ(faultOf(object("Cube", 5, "", 0)), "28: found the flags 5, expected 0 or 2");
     EXPECT_EQ(faultOf(object("Cube", HAS_CHILDREN, "", 0).number(0)),
               "36: found children, but a Cube has none");
     EXPECT_EQ(faultOf(BinaryScene().text("USE").text("B")), "32: USE of \"B\", which no DEF before it names");
     EXPECT_EQ(faultOf(object("Separator", HAS_CHILDREN, "A", 0).number(1).text("USE").text("A")),
-              "63: USE of \"A\" within its own definition");
+              "68: USE of \"A\" within its own definition");
     EXPECT_EQ(faultOf(object("Separator", HAS_CHILDREN, "", 0).number(1).text("")),
-              "51: found an empty place, expected child 1 of 1");
+              "56: found an empty place, expected child 1 of 1");
     EXPECT_EQ(faultOf(BinaryScene().text("A\xFF")), "25: found the byte 0xFF, expected UTF-8");
     EXPECT_EQ(faultOf(BinaryScene().text(std::string_view("A\0B", 3))), "25: found the byte 0x00 in a text");
 }
@@ -81,12 +81,12 @@ TEST(BinaryFile, countsBeyondTheFile_costNothing) {
     EXPECT_EQ(faultOf(object("Cube", 0, "", 0x7FFFFFFF)),
               "36: found a count of 2147483647 where 0 bytes are left");
     EXPECT_EQ(faultOf(object("Separator", HAS_CHILDREN, "", 0).number(0x80000000)),
-              "47: found a count of -2147483648 where 0 bytes are left");
+              "48: found a count of -2147483648 where 0 bytes are left");
     EXPECT_EQ(
         faultOf(object("Coordinate3", 0, "", 1).text("point").number(0).number(1'000'000'000).number(0)),
-        "63: found a count of 1000000000 where 4 bytes are left");
+        "64: found a count of 1000000000 where 4 bytes are left");
     EXPECT_EQ(faultOf(object("Text3", 0, "", 1).text("string").number(0).number(2).text("")),
-              "59: found a count of 2 where 4 bytes are left");
+              "60: found a count of 2 where 4 bytes are left");
 }
 
 TEST(BinaryFile, depth_isLimited) {

@@ -45,12 +45,12 @@ TEST(ReadLimits, binaryCutAnywhere_isReportedOnce) {
 TEST(ReadLimits, depth_endsAt256) {
     const auto nested = [](int depth) { return repeat("Separator {", depth) + repeat("}", depth); };
     EXPECT_EQ(readScene(nested(256)).getFault(), "it was read");
-    EXPECT_EQ(readScene(nested(257)).getFault(), "1:2827: nodes are nested deeper than 256 levels");
+    EXPECT_EQ(readScene(nested(257)).getFault(), "1:2817: nodes are nested deeper than 256 levels");
 }
 
 TEST(ReadLimits, millionLevels_areRefused) {
     EXPECT_EQ(readScene(repeat("Separator {", 1'000'000)).getFault(),
-              "1:2827: nodes are nested deeper than 256 levels");
+              "1:2817: nodes are nested deeper than 256 levels");
 }
 
 TEST(ReadLimits, depthMadeByUse_counts) {

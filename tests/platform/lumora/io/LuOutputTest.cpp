@@ -46,7 +46,7 @@ TEST_P(RoundTrip, giveAnEqualTreeAndTheSameBytes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, RoundTrip, testing::Bool(),
-                         [](const auto& info) { return info.param ? "binary" : "text"; });
+                         [](const auto& row) { return row.param ? "binary" : "text"; });
 
 class Output : public testing::Test {
 protected:
