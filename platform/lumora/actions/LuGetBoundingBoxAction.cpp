@@ -22,10 +22,6 @@ void LuGetBoundingBoxAction::extendBy(const LvBox3f& box) {
     m_box.extendBy(transformed);
 }
 
-void LuGetBoundingBoxAction::noteInheritedState() {
-    m_usedDepth = std::min({m_usedDepth, m_state.fontDepth, m_state.coordinateDepth});
-}
-
 LuGetBoundingBoxAction::Saved LuGetBoundingBoxAction::enterSeparator() {
     const Saved saved{m_state, m_box, m_usedDepth};
     m_state.model = LvMatrix();

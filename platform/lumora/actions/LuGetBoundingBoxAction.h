@@ -5,6 +5,8 @@
 #include "platform/lumora/actions/LuBoundingBoxCache.h"
 #include "platform/lumora/base/LvGeometry.h"
 
+#include <algorithm>
+
 /// Finds the box round all shapes that show, in the space of the node it is applied to.
 class LuGetBoundingBoxAction : public LuAction {
 public:
@@ -17,8 +19,8 @@ public:
     /// A shape adds its box, given in the current space.
     void extendBy(const LvBox3f& box);
 
-    /// A shape says that its box depends on the inherited font or coordinates.
-    void noteInheritedState();
+    /// A shape says at which depth of separators the inherited setting was made that its box depends on.
+    void noteInheritedDepth(int depth) { m_usedDepth = std::min(m_usedDepth, depth); }
 
     int getSeparatorDepth() const override { return m_separatorDepth; }
 

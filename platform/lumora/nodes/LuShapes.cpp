@@ -22,8 +22,7 @@ void LuShape::getBoundingBox(LuGetBoundingBoxAction* action) {
     LvBox3f box;
     computeBBox(action->getState(), box);
     action->extendBy(box);
-    if (usesInheritedState())
-        action->noteInheritedState();
+    action->noteInheritedDepth(getInheritedDepth(action->getState()));
 }
 
 namespace {
@@ -73,6 +72,8 @@ LuFaceSet::LuFaceSet() {
     constructor.field("numVertices", numVertices);
 }
 
+int LuFaceSet::getInheritedDepth(const LuTraversalState& state) const { return state.coordinateDepth; }
+
 void LuFaceSet::computeBBox(const LuTraversalState& state, LvBox3f& box) const {
     box.makeEmpty();
     const int available = state.coordinates ? state.coordinates->point.getNum() : 0;
@@ -89,6 +90,8 @@ LuIndexedFaceSet::LuIndexedFaceSet() {
     LuNodeConstructor constructor(s_class, this);
     constructor.field("coordIndex", coordIndex);
 }
+
+int LuIndexedFaceSet::getInheritedDepth(const LuTraversalState& state) const { return state.coordinateDepth; }
 
 void LuIndexedFaceSet::computeBBox(const LuTraversalState& state, LvBox3f& box) const {
     box.makeEmpty();

@@ -3,6 +3,8 @@
 
 #include "platform/lumora/nodes/LuNode.h"
 
+#include <limits>
+
 class LuTraversalState;
 class LvBox3f;
 
@@ -22,8 +24,10 @@ public:
 protected:
     LuShape() = default;
 
-    /// True when the box depends on what nodes before the shape have set.
-    virtual bool usesInheritedState() const { return false; }
+    /// The depth of separators at which the inherited setting that the box depends on was made; OWN when it
+    /// depends on none.
+    static constexpr int OWN = std::numeric_limits<int>::max();
+    virtual int getInheritedDepth(const LuTraversalState&) const { return OWN; }
 
 private:
     static LuNodeClass s_class;
@@ -65,7 +69,7 @@ class LuFaceSet : public LuShape {
     void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
 
 protected:
-    bool usesInheritedState() const override { return true; }
+    int getInheritedDepth(const LuTraversalState& state) const override;
 };
 
 /// Polygons of points of the current LuCoordinate3, by index, each ended by -1. Indices that name no point
@@ -77,5 +81,5 @@ class LuIndexedFaceSet : public LuShape {
     void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
 
 protected:
-    bool usesInheritedState() const override { return true; }
+    int getInheritedDepth(const LuTraversalState& state) const override;
 };

@@ -54,6 +54,8 @@ LvBox3f LuText3::computeLineBox(const LuTraversalState& state, int index) const 
     return {(box.min + offset) * state.fontSize, (box.max + offset) * state.fontSize};
 }
 
+int LuText3::getInheritedDepth(const LuTraversalState& state) const { return state.fontDepth; }
+
 void LuText3::computeBBox(const LuTraversalState& state, LvBox3f& box) const {
     box.makeEmpty();
     for (int i = 0; i < string.getNum(); ++i)

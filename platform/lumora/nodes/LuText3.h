@@ -25,7 +25,7 @@ class LuText3 : public LuShape {
     static float getLineWidth(const LuTraversalState& state, const LvString& line);
 
 protected:
-    bool usesInheritedState() const override { return true; }
+    int getInheritedDepth(const LuTraversalState& state) const override;
 
     /// Called with each line before it is measured or drawn; a subclass may show something else instead.
     virtual LvString getShownLine(int index) const { return string[index]; }

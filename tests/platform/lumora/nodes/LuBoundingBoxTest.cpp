@@ -194,6 +194,45 @@ TEST_F(BoundingBoxTest, InheritedCoordinatesAreNotCachedInTheSeparatorThatUsesTh
     expectBox(measure(root.get()), {0, 0, 0}, {3, 3, 0});
 }
 
+/// Counts how often its box is computed.
+class CountedText : public LuText3 {
+public:
+    mutable int count = 0;
+    void computeBBox(const LuTraversalState& state, LvBox3f& box) const override {
+        ++count;
+        LuText3::computeBBox(state, box);
+    }
+};
+
+TEST_F(BoundingBoxTest, TextBehindItsOwnFontIsCached) {
+    const Held<LuSeparator> root;
+    auto* inner = new LuSeparator;
+    auto* text = new CountedText;
+    text->string.setValue(LvString("x"));
+    inner->addChild(new LuFont);
+    inner->addChild(text);
+    root->addChild(inner);
+    const LvBox3f box = measure(root.get());
+    EXPECT_EQ(measure(root.get()), box);
+    EXPECT_EQ(text->count, 1);
+}
+
+TEST_F(BoundingBoxTest, TextWithAnInheritedFontIsCachedWhereTheFontIsSet) {
+    const Held<LuSeparator> root;
+    auto* inner = new LuSeparator;
+    auto* text = new CountedText;
+    auto* font = new LuFont;
+    text->string.setValue(LvString("x"));
+    inner->addChild(text);
+    root->addChild(font);
+    root->addChild(inner);
+    const LvBox3f box = measure(root.get());
+    EXPECT_EQ(measure(root.get()), box);
+    EXPECT_EQ(text->count, 1);
+    font->size.setValue(20);
+    EXPECT_NEAR(measure(root.get()).getSize().x, box.getSize().x * 2, 1e-3);
+}
+
 class TextBoxTest : public ToolkitTest {
 protected:
     TextBoxTest() {
