@@ -2,6 +2,9 @@
 #include "core/LuClassList.h"
 
 #include "auditors/LuAuditor.h"
+#include "controls/LuDialogLabel.h"
+#include "controls/LuDialogPushButton.h"
+#include "controls/LuDialogSeparator.h"
 #include "core/LuPanelix.h"
 #include "layout/LuColumnDialog.h"
 #include "layout/LuRowDialog.h"
@@ -23,8 +26,9 @@ constexpr ComponentClass row() {
 }
 
 constexpr ComponentClass CLASSES[] = {
-    row<LuPanelix>(),      row<LuTopComponent>(), row<LuDialogComponent>(), row<LuDialogGroup>(),
-    row<LuColumnDialog>(), row<LuRowDialog>(),    row<LuTopLevelDialog>(),
+    row<LuPanelix>(),         row<LuTopComponent>(),   row<LuDialogComponent>(), row<LuDialogGroup>(),
+    row<LuColumnDialog>(),    row<LuRowDialog>(),      row<LuDialogLabel>(),     row<LuDialogPushButton>(),
+    row<LuDialogSeparator>(), row<LuTopLevelDialog>(),
 };
 
 } // namespace
@@ -42,5 +46,7 @@ void luExitComponentClasses() {
 
 void luChangeSkinOfComponentClasses() {
     LuDialogComponent::change3DSkin();
+    LuDialogPushButton::change3DSkin();
+    LuDialogSeparator::change3DSkin();
     LuTopLevelDialog::change3DSkin();
 }

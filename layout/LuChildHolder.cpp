@@ -164,12 +164,9 @@ LuPanelix* LuChildHolder<Base, Child>::searchForAuditorId(LvString id) {
 
 template <class Base, class Child>
 void LuChildHolder<Base, Child>::applyAuditor(LuPanelix* component) {
-    const int length = this->getAuditorListLength();
-    if (length == 0)
+    const auto call = [&](LuDialogAuditor& auditor) { dispatch(&auditor, component); };
+    if (!this->template callAuditors<LuDialogAuditor>(call))
         applyWithoutAuditors(component);
-    // An auditor may detach itself or others meanwhile, which shortens the list.
-    for (int i = 0; i < length && i < this->getAuditorListLength(); ++i)
-        dispatch(static_cast<LuDialogAuditor*>(this->getAuditor(i)), component);
 }
 
 template <class Base, class Child>

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "controls/LuControl.h"
+
+#include "layout/LuTopLevelDialog.h"
+#include "platform/lumora/nodes/LuGroup.h"
+#include "platform/lumora/win/LuWin.h"
+
+HWND LuControl::createChild(const wchar_t* className, DWORD style, const LvString& text) {
+    const HWND child =
+        checkChild(CreateWindowExW(0, className, convertToCString(text, this).toWide().c_str(), style, 0, 0,
+                                   0, 0, m_widget, nullptr, LuWin::getInstance(), nullptr));
+    if (child) {
+        setWidgetFont(child);
+        enableChild(child);
+    }
+    return child;
+}
+
+HWND LuControl::checkChild(HWND child) {
+    if (!child && existWidget(m_widget)) {
+        const LvString title = LvString("Lu") + getTypeId().getName().getString() + " Error";
+        LuWin::createSimpleErrorDialog(nullptr, title.getString(), "CreateWindow failed", nullptr);
+    }
+    return child;
+}
+
+void LuControl::subclassChild(HWND child, WNDPROC procedure, WNDPROC& previous) {
+    if (!existWidget(child))
+        return;
+    previous = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrA(child, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+    SetWindowLongPtrA(child, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+}
+
+void LuControl::placeChild(HWND child, const LvVec2i32& position, const LvVec2i32& size) {
+    if (existWidget(child))
+        SetWindowPos(child, nullptr, position.x, position.y, size.x, size.y, SWP_DEFERERASE);
+}
+
+void LuControl::showChild(HWND child, bool isShown) {
+    if (existWidget(child))
+        ShowWindow(child, isShown ? SW_SHOW : SW_HIDE);
+}
+
+void LuControl::destroyChild(HWND& child) {
+    if (existWidget(child))
+        DestroyWindow(child);
+    child = nullptr;
+}
+
+void LuControl::setChildText(HWND child, const LvString& text) {
+    if (existWidget(child))
+        LuWin::setWindowText(child, convertToCString(text, this));
+}
+
+void LuControl::enableChild(HWND child, bool isAllowed) {
+    if (existWidget(child))
+        EnableWindow(child, isAllowed && enable.getValue());
+}
+
+void LuControl::getContentPlace(LvVec2i32& position, LvVec2i32& size) const {
+    const int inset = getEdgeInset();
+    position.setValue(inset, inset);
+    size.setValue(luAddSize(width.getValue(), -EDGE_ROOM), luAddSize(height.getValue(), -EDGE_ROOM));
+}
+
+LvVec3f LuControl::getContentSize3D() const {
+    LvVec2i32 position, size;
+    getContentPlace(position, size);
+    return {static_cast<float>(size.x), static_cast<float>(size.y), 1.0F};
+}
+
+void LuControl::getLabelRow(int room, int& y, int& rowHeight) {
+    rowHeight = getLabelPixelSize(label.getValue(), this).y;
+    y = luAddSize(height.getValue(), -std::int64_t{room} - rowHeight) / 2 + getEdgeInset();
+}
+
+DWORD LuControl::getLabelAlignmentStyle() const {
+    switch (labelAlignment.getValue()) {
+    case CENTER:
+        return SS_CENTER;
+    case RIGHT:
+        return SS_RIGHT;
+    default:
+        return SS_LEFT;
+    }
+}
+
+void LuControl::handKeyToTopLevel(UINT message, WPARAM key, LPARAM lParam) {
+    const bool isKey = message == WM_KEYDOWN || message == WM_KEYUP;
+    if (!isKey || (key != VK_TAB && key != VK_SHIFT))
+        return;
+    if (auto* top = static_cast<LuTopLevelDialog*>(getFirstTopParent(1, 0)))
+        SendMessageA(top->getWidget(), message, key, lParam);
+}
+
+void LuControl::setCurrentFocusedChild(HWND child) {
+    if (auto* top = static_cast<LuTopLevelDialog*>(getFirstTopParent(1, 0)))
+        top->setCurrentFocusedWidget(child);
+}
+
+LuGroup* LuControl::getGroupPart(const char* part) { return static_cast<LuGroup*>(getPart(part, true)); }
+
+void LuControl::insertBeforePart(LuNode* node, const char* part) {
+    LuGroup* const geometry = getGroupPart("geomSwitch");
+    LuNode* const next = getPart(part, true);
+    geometry->insertChild(node, geometry->findChild(next));
+}
+
+LvVec3f LuControl::getTextPlace(float x, const LvBox3f& box) {
+    return {x, (box.max.y + box.min.y) * -0.5F, 0};
+}
