@@ -1,11 +1,19 @@
 # SPDX-License-Identifier: MIT
 # apps/X becomes the program panelix-X, examples/X the program example-X. A folder without main.cpp holds data.
+# The folders windows/ and memory/ within a program go with the window system of that name.
+if(WIN32)
+    set(otherFolder "/memory/")
+else()
+    set(otherFolder "/windows/")
+endif()
+
 function(panelix_add_programs folder prefix)
     file(GLOB mains CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${folder}/*/main.cpp)
     foreach(main IN LISTS mains)
         cmake_path(GET main PARENT_PATH home)
         cmake_path(GET home FILENAME name)
         file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${home}/*.cpp)
+        list(FILTER sources EXCLUDE REGEX "${otherFolder}")
         add_executable(${prefix}-${name} ${sources})
         target_link_libraries(${prefix}-${name} PRIVATE panelix panelix-options)
     endforeach()

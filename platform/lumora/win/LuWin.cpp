@@ -185,6 +185,14 @@ bool LuWin::processMessages() {
     return true;
 }
 
+bool LuWin::waitForMessages() {
+    MSG message{};
+    if (GetMessageA(&message, nullptr, 0, 0) <= 0)
+        return false;
+    handleMessage(message);
+    return processMessages();
+}
+
 void LuWin::setWindowText(HWND window, const LvString& text) {
     SetWindowTextW(window, text.toWide().c_str());
 }

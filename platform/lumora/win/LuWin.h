@@ -81,6 +81,11 @@ public:
     /// Handles the messages that wait, and returns; false once WM_QUIT was among them.
     static bool processMessages();
 
+    /// Waits for a message and handles it, and all that wait then; false once WM_QUIT was among them. For
+    /// loops that end by a condition of their own. The window system in memory has nothing to wait for: there
+    /// an empty queue counts as WM_QUIT.
+    static bool waitForMessages();
+
     /// Sets the text of a window; all characters come through where the window's procedure is not an ANSI
     /// one.
     static void setWindowText(HWND window, const LvString& text);

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "apps/view/EventPrinter.h"
+
+#include "controls/LuDialogPushButton.h"
+
+#include <cstdio>
+
+namespace {
+
+void printEvent(const char* operation, const LuPanelix& component, const LvString& value) {
+    std::printf("%s \"%s\" \"%s\" \"%s\"\n", operation, component.auditorID.getValue().getString(),
+                component.label.getValue().getString(), value.getString());
+    // Whoever reads the lines through a pipe wants each when it happens.
+    std::fflush(stdout);
+}
+
+} // namespace
+
+void EventPrinter::dialogPushButton(LuDialogPushButton* button) {
+    printEvent("dialogPushButton", *button, button->buttonLabel.getValue());
+}
