@@ -6,7 +6,7 @@
 
 #define STB_IMAGE_WRITE_IMPLEMENTATION
 #define STBI_MSC_SECURE_CRT
-#include <stb_image_write.h>
+#include <stb/stb_image_write.h>
 
 #include <filesystem>
 #include <fstream>
