@@ -110,7 +110,8 @@ void LuDialogComponent::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& pos
         }
         updateComponentWidget();
     } else {
-        if (!isBuilt3D()) {
+        // A class that never says that it is built has its nodes all the same.
+        if (!isBuilt3D() && !m_mainScale) {
             create3DDialogComponent();
             m_firstBuild = 0;
         }

@@ -69,7 +69,7 @@ void LuDialogComponent::change3DEdgeStyle() {
 }
 
 void LuDialogComponent::buildFromTraversal() {
-    if (isBuilt3D())
+    if (isBuilt3D() || m_mainScale)
         return;
     const bool wasEnabled = enableNotify(false);
     LuPanelix* const top = getFirstTopParent(0, 1);

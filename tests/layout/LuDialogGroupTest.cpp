@@ -159,13 +159,15 @@ TEST_F(LuDialogGroupTest, groupThatIsDisabled_disablesItsChildrenAndKeepsTheirFi
 }
 
 TEST_F(LuDialogGroupTest, roomBelowTheMinimum_showsAScrollBarAndScrolls) {
-    auto* const dialog = read<LuTopLevelDialog>(
-        "TopLevelDialog { RowDialog { maxHeight 40 DialogComponent { fixedHeight TRUE }"
-        " DialogComponent { fixedHeight TRUE } } }");
+    auto* const dialog = read<LuTopLevelDialog>("TopLevelDialog { RowDialog { minHeight 20 height 40 "
+                                                "maxHeight 40 DialogComponent { fixedHeight TRUE }"
+                                                " DialogComponent { fixedHeight TRUE } } }");
     dialog->buildDialog(nullptr, 0);
     auto* const row = static_cast<LuRowDialog*>(dialog->getChild(0));
     const HWND window = row->getWidget();
     EXPECT_TRUE(GetWindowLongPtrA(window, GWL_STYLE) & WS_VSCROLL);
+    // A window that doesn't show does not scroll.
+    dialog->show();
     const int before = getCorner(row->getChild(1)->getWidget()).y;
     SendMessageA(window, WM_VSCROLL, SB_LINEDOWN, 0);
     EXPECT_EQ(getCorner(row->getChild(1)->getWidget()).y, before - 1);

@@ -234,15 +234,36 @@ TEST_F(LuTopLevelDialogTest, tab_movesTheFocus) {
     LuTopLevelDialog* const dialog = buildDialog(s_oneChild);
     auto* const child = static_cast<LuDialogComponent*>(dialog->getChild(0));
     const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
-    for (int i = 0; i < 2; ++i)
-        CreateWindowExA(0, "BUTTON", "", style, 0, 10 * i, 20, 8, child->getWidget(), nullptr,
-                        LuWin::getInstance(), nullptr);
+    HWND buttons[2];
+    for (HWND& button : buttons)
+        button = CreateWindowExA(0, "BUTTON", "", style, 0, 0, 20, 8, child->getWidget(), nullptr,
+                                 LuWin::getInstance(), nullptr);
     dialog->show();
+    dialog->setCurrentFocusedWidget(buttons[0]);
     SendMessageA(dialog->getBaseWidget(), WM_KEYDOWN, VK_TAB, 0);
-    const HWND focused = dialog->getCurrentFocusedWidget();
-    EXPECT_EQ(GetFocus(), focused);
+    EXPECT_EQ(dialog->getCurrentFocusedWidget(), buttons[1]);
+    EXPECT_EQ(GetFocus(), buttons[1]);
     SendMessageA(dialog->getWidget(), WM_KEYDOWN, VK_TAB, 0);
-    EXPECT_NE(dialog->getCurrentFocusedWidget(), focused);
+    EXPECT_EQ(dialog->getCurrentFocusedWidget(), buttons[0]);
+}
+
+TEST_F(LuTopLevelDialogTest, tabWithShift_movesTheFocusTheOtherWay) {
+    LuTopLevelDialog* const dialog = buildDialog(s_oneChild);
+    auto* const child = static_cast<LuDialogComponent*>(dialog->getChild(0));
+    const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+    HWND buttons[3];
+    for (HWND& button : buttons)
+        button = CreateWindowExA(0, "BUTTON", "", style, 0, 0, 20, 8, child->getWidget(), nullptr,
+                                 LuWin::getInstance(), nullptr);
+    dialog->show();
+    dialog->setCurrentFocusedWidget(buttons[0]);
+    SendMessageA(dialog->getBaseWidget(), WM_KEYDOWN, VK_SHIFT, 0);
+    SendMessageA(dialog->getBaseWidget(), WM_KEYDOWN, VK_TAB, 0);
+    SendMessageA(dialog->getBaseWidget(), WM_KEYUP, VK_SHIFT, 0);
+    const HWND withShift = dialog->getCurrentFocusedWidget();
+    SendMessageA(dialog->getBaseWidget(), WM_KEYDOWN, VK_TAB, 0);
+    EXPECT_EQ(dialog->getCurrentFocusedWidget(), buttons[0]);
+    EXPECT_NE(withShift, buttons[0]);
 }
 
 TEST_F(LuTopLevelDialogTest, enable_isThatOfBothWindows) {
