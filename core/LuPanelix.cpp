@@ -72,6 +72,9 @@ void LuPanelix::buildWidget(HWND parent, LvVec2i32&, LvVec2i32&, int is2D) {
     } else if (!m_built3D) {
         create3DPanelix();
     }
+    // All of them are made together; a later build, and there are many, needn't look at them.
+    if (m_labelAlignmentSensor)
+        return;
     attachSensor(m_enableSensor, enable);
     attachSensor(m_labelSensor, label);
     attachSensor(m_labelAlignmentSensor, labelAlignment);

@@ -61,7 +61,7 @@ void LuDialogComponent::getOuterDefaultSizes(LuSizes& sizes) {
 }
 
 void LuDialogComponent::getSize(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize) {
-    LuSizes sizes = luGetSizes(getSizeFields());
+    LuSizes sizes = luGetSizes(*this);
     if (sizes.hasOpen()) {
         LuSizes defaults;
         getOuterDefaultSizes(defaults);
@@ -95,7 +95,7 @@ void LuDialogComponent::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& pos
     if (fixedHeight.getValue())
         sizes.minSize.y = sizes.maxSize.y = sizes.size.y;
     if (m_firstBuild) {
-        const LuSizes user = luGetSizes(getSizeFields());
+        const LuSizes user = luGetSizes(*this);
         m_defaultSize = user.size;
         m_defaultMinSize = user.minSize;
         m_defaultMaxSize = user.maxSize;

@@ -50,12 +50,6 @@ int LuSizes::getAskedSize(int axis, int asked) const {
     return asked >= minSize[axis] ? std::min(asked, maxSize[axis]) : minSize[axis];
 }
 
-LuSizes luGetSizes(const LuSizeFields& fields) {
-    return {{fields[0].field.getValue(), fields[1].field.getValue()},
-            {fields[2].field.getValue(), fields[3].field.getValue()},
-            {fields[4].field.getValue(), fields[5].field.getValue()}};
-}
-
 void luWriteSizes(const LuSizeFields& fields, const LuSizes& sizes) {
     writeField(fields[0], sizes.size.x);
     writeField(fields[1], sizes.size.y);

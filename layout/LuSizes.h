@@ -51,8 +51,13 @@ struct LuSizeField {
 /// The size fields of a component: width, height, minWidth, minHeight, maxWidth, maxHeight.
 using LuSizeFields = std::array<LuSizeField, 6>;
 
-/// The values in the fields.
-LuSizes luGetSizes(const LuSizeFields& fields);
+/// The values in the size fields of a component.
+template <class Component>
+LuSizes luGetSizes(const Component& component) {
+    return {{component.width.getValue(), component.height.getValue()},
+            {component.minWidth.getValue(), component.minHeight.getValue()},
+            {component.maxWidth.getValue(), component.maxHeight.getValue()}};
+}
 
 /// Writes the fields as the layout's own doing: their sensors stay silent, and the default flags are clear
 /// afterwards. A field that has the value already tells nobody.

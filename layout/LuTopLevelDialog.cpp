@@ -156,7 +156,7 @@ void LuTopLevelDialog::fixSizeWithBorder(LvVec2i32& size, int sign) const {
 }
 
 void LuTopLevelDialog::getSize(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize) {
-    LuSizes sizes = luGetSizes(getSizeFields());
+    LuSizes sizes = luGetSizes(*this);
     if (sizes.hasOpen()) {
         LuSizes defaults;
         getDefaultSize(defaults.size, defaults.minSize, defaults.maxSize);
@@ -179,7 +179,7 @@ void LuTopLevelDialog::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& buil
     LuPanelix::buildWidget(parent, size, builtPosition, is2D);
     // Before anything is computed the fields hold what the user has set.
     if (m_firstBuild)
-        m_defaultSizes = luGetSizes(getSizeFields());
+        m_defaultSizes = luGetSizes(*this);
     m_firstBuild = 0;
     if (is2D && !existWidget(m_baseWidget))
         createBaseWidget(parent);

@@ -40,7 +40,7 @@ void LuTopLevelDialog::readWheelLines() {
 void LuTopLevelDialog::handleResize(HWND window, WPARAM wParam) {
     RECT rect{};
     GetWindowRect(window, &rect);
-    LuSizes sizes = luGetSizes(getSizeFields());
+    LuSizes sizes = luGetSizes(*this);
     sizes.size.setValue(static_cast<int>(rect.right - rect.left), static_cast<int>(rect.bottom - rect.top));
     luWriteSizes(getSizeFields(), sizes);
     setDefaultState();
