@@ -89,6 +89,7 @@ void LuBase::notify(LuNotification& notification) {
     if (m_notifyStamp == notification.stamp)
         return;
     m_notifyStamp = notification.stamp;
+    const LuKeepAlive alive(this);
     invalidateCaches();
     const bool wasMuted = notification.isMuted;
     notification.isMuted = wasMuted || !m_isNotifyEnabled;

@@ -32,6 +32,26 @@ private:
     mutable std::int32_t m_refCount = 0;
 };
 
+/// Keeps an object for a scope in which code of others runs, which may give up what they hold of it. The
+/// object may end with the scope. One that nobody has referenced yet, or null, is left alone.
+class LuKeepAlive {
+public:
+    explicit LuKeepAlive(const LuRefCounter* object)
+        : m_object(object && object->getRefCount() > 0 ? object : nullptr) {
+        if (m_object)
+            m_object->ref();
+    }
+    ~LuKeepAlive() {
+        if (m_object)
+            m_object->unref();
+    }
+    LuKeepAlive(const LuKeepAlive&) = delete;
+    LuKeepAlive& operator=(const LuKeepAlive&) = delete;
+
+private:
+    const LuRefCounter* m_object;
+};
+
 /// One change on its way up the graph.
 struct LuNotification {
     LuBase* origin = nullptr; ///< The object that changed.

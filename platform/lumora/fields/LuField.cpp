@@ -58,6 +58,7 @@ void LuField::disconnect() {
 LuField* LuField::getConnectedField() const { return m_isConnected ? getMasters().at(this) : nullptr; }
 
 void LuField::notifyFromBelow(LuNotification& notification) {
+    const LuKeepAlive alive(m_container);
     tellObservers(notification);
     if (m_container)
         m_container->notify(notification);
@@ -86,17 +87,11 @@ void LuField::passOn(LuField& slave) {
 }
 
 void LuField::tellOfChange() {
-    LuFieldContainer* const container = m_container;
-    // The container may lose its last reference in what is called.
-    const bool isHeld = container && container->getRefCount() > 0;
-    if (isHeld)
-        container->ref();
-    if (container)
-        container->startNotify(this);
+    const LuKeepAlive alive(m_container);
+    if (m_container)
+        m_container->startNotify(this);
     if (!m_observers.isEmpty()) {
-        LuNotification notification{container, this, 0, false};
+        LuNotification notification{m_container, this, 0, false};
         tellObservers(notification);
     }
-    if (isHeld)
-        container->unref();
 }

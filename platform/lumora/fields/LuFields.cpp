@@ -21,9 +21,11 @@ template <class T>
 void LuMFValue<T>::set1Value(int index, const T& value) {
     if (index < 0)
         return;
+    // The value may be one of this list, which moves when it grows.
+    T copy(value);
     if (index >= getNum())
         m_values.resize(static_cast<std::size_t>(index) + 1);
-    m_values[static_cast<std::size_t>(index)] = value;
+    m_values[static_cast<std::size_t>(index)] = std::move(copy);
     valueChanged();
 }
 
@@ -44,7 +46,8 @@ void LuMFValue<T>::insertSpace(int index, int count) {
 template <class T>
 void LuMFValue<T>::deleteValues(int index, int count) {
     const int first = std::clamp(index, 0, getNum());
-    const int last = first + std::clamp(count, 0, getNum() - first);
+    const int left = getNum() - first;
+    const int last = first + (count < 0 ? left : std::min(count, left));
     m_values.erase(m_values.begin() + first, m_values.begin() + last);
     valueChanged();
 }
@@ -89,6 +92,8 @@ void LuSFNode::hold(LuNode* node) {
 }
 
 void LuSFNode::setValue(LuNode* node) {
+    // The node before may be what kept the owner of this field.
+    const LuKeepAlive alive(m_node);
     hold(node);
     valueChanged();
 }

@@ -56,6 +56,8 @@ public:
     explicit LuMFValue(const T& value) : m_values{value} {}
 
     int getNum() const { return static_cast<int>(m_values.size()); }
+
+    /// The value at an index, which must lie within the list.
     const T& operator[](int index) const { return m_values[static_cast<std::size_t>(index)]; }
     const std::vector<T>& getValues() const { return m_values; }
 
@@ -70,6 +72,8 @@ public:
 
     /// Opens a gap of `count` default values before the value at `index`.
     void insertSpace(int index, int count);
+
+    /// Removes `count` values from `index` on; -1 all of them to the end.
     void deleteValues(int index, int count);
 
     const char* getTypeName() const override { return LuValueIO<T>::multipleName(); }

@@ -89,6 +89,8 @@ bool LuBaseKit::setPartByNumber(int part, LuNode* node, bool isDefault) {
     }
     LuSFNode* const field = getPartField(part);
     LuNode* const before = field->getValue();
+    const LuKeepAlive alive(this);
+    const LuKeepAlive aliveBefore(before);
     LuChildList* const siblings = node || before ? getParentList(part) : nullptr;
     if (siblings) {
         const int index = before ? siblings->find(before) : -1;

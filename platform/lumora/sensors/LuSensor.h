@@ -65,8 +65,8 @@ class LuDataSensor : public LuDelayQueueSensor {
 public:
     using LuDelayQueueSensor::LuDelayQueueSensor;
 
-    /// The object and the field whose change was the last to be seen; null before the first, and after the
-    /// data have gone.
+    /// The object and the field whose change was the last to be seen; null before the first, and when the
+    /// sensor has been detached. They may have ended since: use them in the call that the change makes.
     LuBase* getTriggerNode() const { return m_triggerNode; }
     LuField* getTriggerField() const { return m_triggerField; }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/lumora/nodes/LuGroup.h"
 #include "platform/lumora/nodes/LuProperties.h"
 #include "platform/lumora/nodes/LuTransforms.h"
 #include "platform/lumora/sensors/LuSensor.h"
@@ -8,6 +9,22 @@
 namespace {
 
 using FieldTest = ToolkitTest;
+
+/// A node that holds another in a field, and tells of its end.
+class OwnerNode : public LuNode {
+public:
+    OwnerNode() { node.setContainer(this); }
+    LuType getTypeId() const override { return getClassTypeId(); }
+
+    LuSFNode node;
+    bool* isEnded = nullptr;
+
+protected:
+    ~OwnerNode() override {
+        if (isEnded)
+            *isEnded = true;
+    }
+};
 
 void countCall(void* data, LuSensor*) { ++*static_cast<int*>(data); }
 
@@ -92,7 +109,8 @@ TEST_F(FieldTest, CircleOfConnectionsEnds) {
 }
 
 TEST_F(FieldTest, FieldsOfDifferentKindsDoNotConnect) {
-    expectMessage("LuField::connectFrom", "A field of type SFFloat can't be connected from one of type SFVec3f.");
+    expectMessage("LuField::connectFrom",
+                  "A field of type SFFloat can't be connected from one of type SFVec3f.");
     const Held<LuTranslation> master;
     const Held<LuFont> slave;
     EXPECT_FALSE(slave->size.connectFrom(&master->translation));
@@ -119,6 +137,32 @@ TEST_F(FieldTest, MultipleValuesGrowOnDemand) {
     EXPECT_EQ(node->point.getNum(), 1);
     node->point.set1Value(-1, {9, 9, 9});
     EXPECT_EQ(node->point.getNum(), 1);
+}
+
+TEST_F(FieldTest, ValueOfTheListItselfMayMakeItGrow) {
+    LuMFString field(LvString("a text that is too long to stand within the string"));
+    field.set1Value(100, field[0]);
+    EXPECT_EQ(field[100], field[0]);
+}
+
+TEST_F(FieldTest, CountMinusOneDeletesToTheEnd) {
+    LuMFString field;
+    field.setValues({"a", "b", "c"});
+    field.deleteValues(1, -1);
+    EXPECT_EQ(field.getValues(), std::vector<LvString>{"a"});
+    field.deleteValues(5, -1);
+    EXPECT_EQ(field.getNum(), 1);
+}
+
+TEST_F(FieldTest, NodeThatKeptTheFieldsOwnerMayBeReplaced) {
+    auto* const kit = new OwnerNode;
+    auto* const keeper = new LuGroup;
+    kit->node.setValue(keeper);
+    keeper->addChild(kit);
+    bool isEnded = false;
+    kit->isEnded = &isEnded;
+    kit->node.setValue(nullptr);
+    EXPECT_TRUE(isEnded);
 }
 
 TEST_F(FieldTest, FieldHoldsItsNodeByReference) {

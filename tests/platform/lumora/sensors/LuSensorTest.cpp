@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "platform/lumora/sensors/LuSensor.h"
 #include "platform/lumora/nodes/LuGroup.h"
 #include "platform/lumora/nodes/LuTransforms.h"
-#include "platform/lumora/sensors/LuSensor.h"
 #include "tests/host/ToolkitTest.h"
 
 #include <functional>
@@ -134,6 +134,31 @@ TEST_F(SensorTest, ContainerMayEndInTheCall) {
     sensor.attach(&node->translation);
     node->translation.setValue({1, 0, 0});
     EXPECT_EQ(sensor.getAttachedField(), nullptr);
+}
+
+TEST_F(SensorTest, NodesAboveMayEndInTheCall) {
+    const Held<LuTranslation> node;
+    auto* middle = new LuGroup;
+    auto* top = new LuGroup;
+    top->ref();
+    top->addChild(middle);
+    middle->addChild(node.get());
+    Function end = [top] { top->unref(); };
+    int calls = 0;
+    // Of two on each node, the first to be told ends both nodes.
+    LuNodeSensor first(&call, &end), second(&countCall, &calls);
+    LuNodeSensor onTop(&countCall, &calls);
+    for (LuNodeSensor* sensor : {&first, &second, &onTop})
+        sensor->setPriority(0);
+    first.attach(middle);
+    second.attach(middle);
+    onTop.attach(top);
+    middle->removeObserver(LuObserver(static_cast<LuBase*>(top)));
+    middle->addObserver(LuObserver(static_cast<LuBase*>(top)));
+    node->translation.setValue({1, 0, 0});
+    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(first.getAttachedNode(), nullptr);
+    EXPECT_EQ(onTop.getAttachedNode(), nullptr);
 }
 
 TEST_F(SensorTest, NodeSensorSeesChangesBelowOnceEach) {
