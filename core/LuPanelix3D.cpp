@@ -61,7 +61,10 @@ void LuPanelix::change3DWidgetEnable(int isParentEnabled) {
 void LuPanelix::change3DLabel() { m_labelBBox = getUnsetBox(); }
 
 void LuPanelix::apply3DParentTranslation() {
+    if (m_parentTranslationNode)
+        m_parentTranslationNode->unref();
     m_parentTranslationNode = new LuTranslation;
+    m_parentTranslationNode->ref();
     m_parentTranslationNode->translation.setValue(m_parentTranslation);
     static_cast<LuGroup*>(getPart("geomSeparator", true))->insertChild(m_parentTranslationNode, 0);
 }

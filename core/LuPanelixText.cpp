@@ -115,6 +115,8 @@ int LuPanelix::insertTextTo3DText(LvString text, LuText3* target, int line, int 
 
 int LuPanelix::wrap3DTextLine(LuText3* target, int line, float maxWidth, LuGroup* properties,
                               LuPanelix* component) {
+    if (line < 0 || line >= target->string.getNum())
+        return line;
     auto* measured = new LuText3;
     measured->ref();
     auto* separator = new LuSeparator;

@@ -92,6 +92,17 @@ TEST_F(SkinTest, SkinWithoutAFileFallsBackOnTheStoredText) {
     LuPanelix::setSkin("default");
 }
 
+TEST_F(SkinTest, OnlyTheFirstMissingFileGetsTheLongMessage) {
+    const std::string folder = makeSkin("shortened", 50);
+    std::filesystem::remove(folder + "/TextProperties.lum");
+    const std::string message = "The skin file : <TextProperties.lum> cannot be found.";
+    expectMessageContaining("Panelix::readDefaultSkinsParts", message);
+    LuPanelix::setSkin(folder);
+    expectMessage("Panelix::readDefaultSkinsParts", message);
+    LuPanelix::setSkin(folder);
+    LuPanelix::setSkin("default");
+}
+
 TEST_F(SkinTest, SkinThatLacksANameLeavesTheGroupEmpty) {
     const std::string folder = makeSkin("empty", 50);
     std::ofstream(folder + "/TextProperties.lum") << "#Lumora V2.0 ascii\nGroup { }\n";
@@ -111,7 +122,7 @@ TEST_F(SkinTest, ReadingASkinFileKeepsTheSearchPath) {
     LuInput::clearDirectories();
 }
 
-TEST_F(SkinTest, EveryDefaultSkinFileReadsWritesAndReadsTheSame) {
+TEST_F(SkinTest, EveryDefaultSkinFileIsRead) {
     int numFiles = 0;
     for (const auto& file : std::filesystem::directory_iterator("data/Panelix/skins/default")) {
         LuInput input;

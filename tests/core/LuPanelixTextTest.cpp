@@ -175,6 +175,13 @@ TEST_F(TextTest, CharacterWiderThanTheWidthStandsAloneAndTheWrapEnds) {
     EXPECT_EQ(wrap("WW", -5), 1);
 }
 
+TEST_F(TextTest, WrapOfALineThatIsNotThereDoesNothing) {
+    text->string.setValue(LvString("abc"));
+    EXPECT_EQ(OpenPanelix::wrap3DTextLine(text.get(), 1, 5, properties.get(), component.get()), 1);
+    EXPECT_EQ(OpenPanelix::wrap3DTextLine(text.get(), -1, 5, properties.get(), component.get()), -1);
+    EXPECT_EQ(getLines(), (Lines{"abc"}));
+}
+
 TEST_F(TextTest, WrapKeepsCharactersOfSeveralBytesWhole) {
     const std::string word = "\u00e4\u00f6\u00fc";
     wrap(word.c_str(), widthOf("\u00e4") * 0.5F);
