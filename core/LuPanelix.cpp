@@ -6,6 +6,7 @@
 #include "platform/lumora/cluster/CrInitModuleCmd.h"
 #include "platform/lumora/io/LuDB.h"
 #include "platform/lumora/nodes/LuProperties.h"
+#include "platform/lumora/nodes/LuTransforms.h"
 
 LU_KIT_SOURCE(LuPanelix, LuDragger, "Panelix")
 
@@ -25,6 +26,9 @@ LuPanelix::LuPanelix() {
 LuPanelix::~LuPanelix() {
     if (m_lastActive == this)
         m_lastActive = nullptr;
+    setParent(nullptr);
+    while (m_firstChild)
+        m_firstChild->setParent(nullptr);
     delete m_bboxAction;
     delete m_searchAction;
     delete m_matrixAction;
@@ -36,6 +40,8 @@ LuPanelix::~LuPanelix() {
         m_pickStyle->unref();
     if (m_material)
         m_material->unref();
+    if (m_parentTranslationNode)
+        m_parentTranslationNode->unref();
 }
 
 void LuPanelix::init() {
@@ -113,6 +119,30 @@ void LuPanelix::updateFromSensor(LuSensor* sensor) {
     }
 }
 
+void LuPanelix::setParent(LuPanelix* parent) {
+    if (parent == m_parent)
+        return;
+    leaveSiblings();
+    m_parent = parent;
+    if (!parent)
+        return;
+    m_nextSibling = parent->m_firstChild;
+    if (m_nextSibling)
+        m_nextSibling->m_previousSibling = this;
+    parent->m_firstChild = this;
+}
+
+void LuPanelix::leaveSiblings() {
+    if (m_previousSibling)
+        m_previousSibling->m_nextSibling = m_nextSibling;
+    else if (m_parent)
+        m_parent->m_firstChild = m_nextSibling;
+    if (m_nextSibling)
+        m_nextSibling->m_previousSibling = m_previousSibling;
+    m_previousSibling = nullptr;
+    m_nextSibling = nullptr;
+}
+
 LuPanelix* LuPanelix::getFirstTopParent(int ignoreTraversal, int acceptGroup) {
     LuPanelix* current = this;
     while (LuPanelix* const parent = current->m_parent) {
@@ -126,6 +156,9 @@ LuPanelix* LuPanelix::getFirstTopParent(int ignoreTraversal, int acceptGroup) {
 }
 
 void LuPanelix::set3DCurrentActive(LuPanelix* component) {
+    // The one that yields may call auditors, which may end either.
+    const LuKeepAlive aliveBefore(m_lastActive);
+    const LuKeepAlive alive(component);
     if (m_lastActive && m_lastActive != component)
         m_lastActive->set3DInactive();
     m_lastActive = component;
@@ -134,6 +167,11 @@ void LuPanelix::set3DCurrentActive(LuPanelix* component) {
 void LuPanelix::set3DInactive() {
     if (m_lastActive == this)
         m_lastActive = nullptr;
+}
+
+void LuPanelix::reportAgain(LuPanelix& container) {
+    const LuKeepAlive alive(this);
+    container.applyAuditor(this);
 }
 
 void LuPanelix::addAuditor(LuAuditor* auditor) {

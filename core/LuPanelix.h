@@ -31,7 +31,7 @@ class LuTranslation;
 /// | `labelAlignment` | LEFT, CENTER, RIGHT            | the same                                    |
 ///
 /// Sizes are in pixels, which are scene units in 3D; y points down in windows and up in 3D. Components are
-/// owned by references; `m_parent` is a plain pointer. Everything is for the one thread that owns the windows
+/// owned by references; `m_parent` holds none. Everything is for the one thread that owns the windows
 /// and traverses the scene.
 class LuPanelix : public LuDragger {
     LU_KIT_HEADER(LuPanelix)
@@ -95,8 +95,9 @@ class LuPanelix : public LuDragger {
     /// Components whose parents don't show them in 3D count as topmost unless `ignoreTraversal`. May be null.
     LuPanelix* getFirstTopParent(int ignoreTraversal, int acceptGroup);
 
-    /// The component above. It is not referenced.
-    void setParent(LuPanelix* parent) { m_parent = parent; }
+    /// The component above. It is not referenced: when it ends, there is none. A child that has been taken
+    /// out of its parent keeps it.
+    void setParent(LuPanelix* parent);
     LuPanelix* getParent() const { return m_parent; }
 
     int isBuilt3D() const { return m_built3D; }
@@ -145,7 +146,7 @@ class LuPanelix : public LuDragger {
 
     /// Reports the component to its container once more, as if it had just changed. What has components below
     /// reports those.
-    virtual void reportAgain(LuPanelix& container) { container.applyAuditor(this); }
+    virtual void reportAgain(LuPanelix& container);
 
     /// A native menu reports its entry `id`; the data of the entry is this component, as a LuPanelix.
     virtual void menuEvent(void*, int) {}
@@ -185,23 +186,19 @@ protected:
         const int length = getAuditorListLength();
         if (length == 0)
             return false;
-        // A component that nobody has referenced yet can't be given up by an auditor either.
-        const bool isHeld = getRefCount() > 0;
-        if (isHeld)
-            ref();
+        const LuKeepAlive alive(this);
         for (int index = 0; index < length; ++index) {
             LuAuditor* const auditor = index < getAuditorListLength() ? getAuditor(index) : nullptr;
             if (auditor)
                 call(*static_cast<Auditor*>(auditor));
         }
-        if (isHeld)
-            unref();
         return true;
     }
 
     /// What applyDlgCptAuditor of every class does: its own auditors hear of it, or else the parent.
     template <class Component, class Auditor>
     void fireAuditors(void (Auditor::*operation)(Component*)) {
+        const LuKeepAlive alive(this);
         auto* component = static_cast<Component*>(this);
         const bool isHeard =
             callAuditors<Auditor>([&](Auditor& auditor) { (auditor.*operation)(component); });
@@ -267,10 +264,24 @@ protected:
     static void readDefaultSkinsParts(const LvString& file, const char* text);
     friend class LuSkin;
 
+    /// Reads the look of texts before its first use.
     void loadFontProperties() { s_skin.loadOnFirstUse(); }
+
+    /// The number of line feeds: one less than that of the lines.
     static int getNumLines(const LvString& text);
+
+    /// Stores the lines of a text at the front of the target; lines behind them stay as they are.
     static void setStringToText3(LuText3* target, const LvString& text);
+
+    /// Inserts what a key gives and returns the line on which the caret stands then. A text with a line feed
+    /// opens an empty line behind `line`, and is not inserted itself. Any other goes in front of the byte
+    /// `column` of the line; -1 appends it.
     static int insertTextTo3DText(LvString text, LuText3* target, int line, int column);
+
+    /// Breaks a line of the target into lines that are `maxWidth` scene units wide behind `properties`, and
+    /// returns the last of them. The character that crosses the limit stays at the end of its line and stands
+    /// at the beginning of the next one too. `component` has its 3D rendition. A line that isn't there is
+    /// left alone.
     static int wrap3DTextLine(LuText3* target, int line, float maxWidth, LuGroup* properties,
                               LuPanelix* component);
 
@@ -298,6 +309,12 @@ protected:
 private:
     void create3DPanelix();
     void setLook3D(int pickStyle, bool isEnabled);
+    void leaveSiblings();
+
+    /// The components whose parent this is, and this one's place among those of its own parent.
+    LuPanelix* m_firstChild = nullptr;
+    LuPanelix* m_previousSibling = nullptr;
+    LuPanelix* m_nextSibling = nullptr;
 
     static LuSkin s_skin;
     static int s_initRefCount;

@@ -147,6 +147,7 @@ void LuChildHolder<Base, Child>::removeAuditor(LuDialogAuditor* auditor) {
 
 template <class Base, class Child>
 void LuChildHolder<Base, Child>::applyAuditors() {
+    const LuKeepAlive alive(this);
     for (int i = 0; i < this->getNumChildren(); ++i)
         this->getChild(i)->reportAgain(*this);
 }

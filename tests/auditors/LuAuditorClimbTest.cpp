@@ -177,6 +177,48 @@ TEST_F(LuAuditorClimbTest, auditorThatEndsTheComponent_isSafe) {
     EXPECT_EQ(m_group->getNumChildren(), 0);
 }
 
+TEST_F(LuAuditorClimbTest, firstOfTwoDialogAuditorsThatEndsTheComponent_isSafe) {
+    m_dialog->addAuditor(&m_a);
+    m_dialog->addAuditor(&m_b);
+    m_a.m_then = [&] { m_group->removeChild(m_inside); };
+    m_inside->applyDlgCptAuditor();
+    EXPECT_EQ(m_log, Log({"a:inside", "b:inside"}));
+    EXPECT_EQ(m_group->getNumChildren(), 0);
+}
+
+TEST_F(LuAuditorClimbTest, auditorThatEndsTheComponentWhileItIsReportedAgain_isSafe) {
+    m_dialog->addAuditor(&m_a);
+    m_dialog->addAuditor(&m_b);
+    m_a.m_then = [&] { m_group->removeChild(0); };
+    m_dialog->applyAuditors();
+    EXPECT_EQ(m_log, Log({"a:inside", "b:inside", "a:beside", "b:beside"}));
+}
+
+TEST_F(LuAuditorClimbTest, auditorThatEndsTheGroupWhileItIsReportedAgain_isSafe) {
+    m_dialog->addAuditor(&m_a);
+    m_a.m_then = [&] {
+        if (m_dialog->getNumChildren() == 2)
+            m_dialog->removeChild(m_group);
+    };
+    m_dialog->applyAuditors();
+    EXPECT_EQ(m_log[0], "a:inside");
+    EXPECT_EQ(m_dialog->getNumChildren(), 1);
+}
+
+TEST_F(LuAuditorClimbTest, componentThatOutlivesItsDialog_isSilent) {
+    const Held<LuDialogPushButton> button;
+    {
+        const Held<LuTopLevelDialog> dialog;
+        dialog->addAuditor(&m_a);
+        dialog->addChild(button.get());
+        dialog->removeChild(button.get());
+        button->applyDlgCptAuditor();
+        EXPECT_EQ(m_log.size(), 1u);
+    }
+    button->applyDlgCptAuditor();
+    EXPECT_EQ(m_log.size(), 1u);
+}
+
 TEST_F(LuAuditorClimbTest, componentWithoutAParent_isSilent) {
     const Held<LuDialogPushButton> alone;
     alone->applyDlgCptAuditor();

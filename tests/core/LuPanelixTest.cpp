@@ -6,17 +6,23 @@
 #include "tests/core/OpenPanelix.h"
 #include "tests/host/ComponentTest.h"
 
+#include <array>
+
 namespace {
 
 using PanelixTest = ComponentTest;
 
 TEST(ModuleTest, TwoStartsAndOneEndLeaveTheClassesRegistered) {
-    const int toolkitStarts = LuDB::getInitCount();
+    using Counts = std::array<int, 3>;
+    const auto getCounts = [] {
+        return Counts{LuDB::getInitCount(), LuNodeKit::getInitCount(), LuInteraction::getInitCount()};
+    };
+    const auto [toolkit, kits, draggers] = getCounts();
     LuPanelix::init();
     LuPanelix::init();
-    EXPECT_EQ(LuDB::getInitCount(), toolkitStarts + 2);
+    EXPECT_EQ(getCounts(), (Counts{toolkit + 2, kits + 2, draggers + 2}));
     LuPanelix::finish();
-    EXPECT_EQ(LuDB::getInitCount(), toolkitStarts + 1);
+    EXPECT_EQ(getCounts(), (Counts{toolkit + 1, kits + 1, draggers + 1}));
     EXPECT_TRUE(LuPanelix::isInitialized());
     EXPECT_FALSE(LuType::fromName("Panelix").isBad());
     LuPanelix::finish();
@@ -135,6 +141,35 @@ TEST_F(PanelixTest, EndOfTheActiveComponentLeavesNone) {
     EXPECT_EQ(LuPanelix::get3DCurrentActive(), nullptr);
 }
 
+/// Ends another component, or itself, when it yields.
+class EndingPanelix : public OpenPanelix {
+public:
+    void set3DInactive() override {
+        toEnd->unref();
+        OpenPanelix::set3DInactive();
+    }
+    LuPanelix* toEnd = this;
+};
+
+TEST_F(PanelixTest, ComponentThatEndsTheNextWhileItYieldsLeavesNoneActive) {
+    const Held<EndingPanelix> before;
+    auto* const next = new OpenPanelix;
+    next->ref();
+    before->toEnd = next;
+    LuPanelix::set3DCurrentActive(before.get());
+    LuPanelix::set3DCurrentActive(next);
+    EXPECT_EQ(LuPanelix::get3DCurrentActive(), nullptr);
+}
+
+TEST_F(PanelixTest, ComponentMayEndWhileItYields) {
+    auto* const before = new EndingPanelix;
+    before->ref();
+    const Held<OpenPanelix> next;
+    LuPanelix::set3DCurrentActive(before);
+    LuPanelix::set3DCurrentActive(next.get());
+    EXPECT_EQ(LuPanelix::get3DCurrentActive(), next.get());
+}
+
 class SilentAuditor : public LuAuditor {};
 
 TEST_F(PanelixTest, AuditorAddedTwiceStandsInTheListOnce) {
@@ -193,6 +228,34 @@ TEST_F(ParentTest, ParentThatIsNotTraversedEndsTheWalk) {
     EXPECT_EQ(control->getFirstTopParent(1, 0), outer.get());
 }
 
+TEST_F(PanelixTest, EndOfTheParentLeavesItsChildrenWithoutOne) {
+    const Held<OpenPanelix> first, second, third;
+    const Held<OpenPanelix> other;
+    {
+        const Held<OpenPanelix> parent;
+        for (const Held<OpenPanelix>* child : {&first, &second, &third})
+            (*child)->setParent(parent.get());
+        second->setParent(other.get());
+        EXPECT_EQ(first->getParent(), parent.get());
+    }
+    EXPECT_EQ(first->getParent(), nullptr);
+    EXPECT_EQ(second->getParent(), other.get());
+    EXPECT_EQ(third->getParent(), nullptr);
+}
+
+TEST_F(PanelixTest, ChildMayEndBeforeItsParent) {
+    const Held<OpenPanelix> parent, stays;
+    {
+        const Held<OpenPanelix> first, last;
+        first->setParent(parent.get());
+        stays->setParent(parent.get());
+        last->setParent(parent.get());
+    }
+    EXPECT_EQ(stays->getParent(), parent.get());
+    stays->setParent(nullptr);
+    EXPECT_EQ(stays->getParent(), nullptr);
+}
+
 class PlacementTest : public ComponentTest {
 protected:
     PlacementTest() {
@@ -232,6 +295,14 @@ TEST_F(PlacementTest, ParentOffsetStandsFirstInTheGeometry) {
     LvVec3f moved(1, 1, 1);
     component->set3DParentTranslation(moved);
     EXPECT_EQ(node->translation.getValue(), LvVec3f(1, 1, 1));
+    EXPECT_EQ(component->get3DParentTranslation(), LvVec3f(1, 1, 1));
+}
+
+TEST_F(PlacementTest, ParentOffsetMayBeSetWhenItsGeometryHasGone) {
+    component->apply3DParentTranslation();
+    component->setPart("geomSeparator", nullptr);
+    LvVec3f moved(1, 1, 1);
+    component->set3DParentTranslation(moved);
     EXPECT_EQ(component->get3DParentTranslation(), LvVec3f(1, 1, 1));
 }
 
