@@ -6,8 +6,24 @@
 #include "platform/lumora/nodes/LuTransforms.h"
 
 namespace {
+
 constexpr int LEFT_ROOM = 3; ///< Units between the edge of the component and its text.
+
+/// Escapes the carriage returns, which convertToCString would drop: of those, only one behind a line feed is
+/// to go from the lines in 3D.
+LvString keepReturns(const LvString& text) {
+    std::string kept;
+    for (int i = 0; i < text.getLength(); ++i) {
+        if (text[i] == '\r')
+            kept += '\\';
+        kept += text[i];
+        if (text[i] == '\\' && i + 1 < text.getLength())
+            kept += text[++i];
+    }
+    return kept;
 }
+
+} // namespace
 
 void LuDialogLabel::create3DDialogLabel() {
     loadFontProperties();
@@ -25,7 +41,7 @@ void LuDialogLabel::create3DDialogLabel() {
 
 void LuDialogLabel::change3DLabel() {
     if (m_text3) {
-        const LvString text = convertToCString(label.getValue(), nullptr);
+        const LvString text = convertToCString(keepReturns(label.getValue()), nullptr);
         const float room = static_cast<float>(width.getValue()) - EDGE_ROOM;
         // The lines of the text before would stay behind those of a shorter one.
         m_text3->string.setNum(0);

@@ -169,23 +169,31 @@ TEST_F(LuDialogLabelTest, noCarrierWindow_leavesTheLabelWithoutWindows) {
 }
 
 TEST_F(LuDialogLabelTest, lineFeeds_makeLines3D) {
+    m_label->width = 200;
     m_label->label = "One\\nTwo\n";
     build3D(*m_label);
     EXPECT_EQ(getLines(getText3()), Lines({"One", "Two", ""}));
 }
 
-// A carriage return gets into the shown text only behind a backslash; a bare one goes before.
 TEST_F(LuDialogLabelTest, carriageReturnBehindALineFeed_isDropped3D) {
-    m_label->label = "One\n\rTwo\n\\\rThree";
+    m_label->width = 200;
+    m_label->label = "One\n\rTwo";
     build3D(*m_label);
-    EXPECT_EQ(getLines(getText3()), Lines({"One", "Two", "Three"}));
+    EXPECT_EQ(getLines(getText3()), Lines({"One", "Two"}));
 }
 
 TEST_F(LuDialogLabelTest, carriageReturnBeforeALineFeed_stays3D) {
     m_label->width = 200;
-    m_label->label = "One\\\r\nTwo\r\nThree";
+    m_label->label = "One\r\nTwo";
     build3D(*m_label);
-    EXPECT_EQ(getLines(getText3()), Lines({"One\r", "Two", "Three"}));
+    EXPECT_EQ(getLines(getText3()), Lines({"One\r", "Two"}));
+}
+
+TEST_F(LuDialogLabelTest, escapes_areReadAroundCarriageReturns3D) {
+    m_label->width = 200;
+    m_label->label = "a\\\\\rb\\\rc\\\"";
+    build3D(*m_label);
+    EXPECT_EQ(getLines(getText3()), Lines({"a\\\rb\rc\""}));
 }
 
 TEST_F(LuDialogLabelTest, lineThatIsTooLong_isWrapped3D) {

@@ -462,17 +462,20 @@ class LuDialogPushButtonInDialogTest : public LuDialogPushButtonTest {
 protected:
     LuDialogPushButtonInDialogTest() : m_wasHeadless(LuDBImpl::m_isHeadless) {
         LuDBImpl::m_isHeadless = false;
+        m_dialog->addChild(m_first.get());
         m_dialog->addChild(m_button.get());
         m_dialog->buildDialog(nullptr, 0);
     }
     ~LuDialogPushButtonInDialogTest() override { LuDBImpl::m_isHeadless = m_wasHeadless; }
 
+    Held<LuDialogPushButton> m_first; ///< Another button, above it.
     Held<LuTopLevelDialog> m_dialog;
     bool m_wasHeadless;
 };
 
 TEST_F(LuDialogPushButtonInDialogTest, click_makesTheButtonTheFocusedWindow) {
-    m_dialog->setCurrentFocusedWidget(nullptr);
+    SendMessageA(m_first->getButtonWidget(), BM_CLICK, 0, 0);
+    EXPECT_EQ(m_dialog->getCurrentFocusedWidget(), m_first->getButtonWidget());
     SendMessageA(getNative(), BM_CLICK, 0, 0);
     EXPECT_EQ(m_dialog->getCurrentFocusedWidget(), getNative());
 }
