@@ -209,6 +209,15 @@ TEST_F(LuDialogPushButtonTest, clickByMessage_firesOnce) {
     EXPECT_EQ(m_presses.m_last, m_button.get());
 }
 
+TEST_F(LuDialogPushButtonTest, noTopLevelDialogAbove_keysAndClicksAreHarmless) {
+    buildWindows(*m_button);
+    SendMessageA(getNative(), WM_KEYDOWN, VK_TAB, 0);
+    SendMessageA(getNative(), WM_KEYUP, VK_SHIFT, 0);
+    EXPECT_EQ(m_presses.m_count, 0);
+    SendMessageA(getNative(), BM_CLICK, 0, 0);
+    EXPECT_EQ(m_presses.m_count, 1);
+}
+
 TEST_F(LuDialogPushButtonTest, clickByMouse_firesOnRelease) {
     buildWindows(*m_button);
     SendMessageA(getNative(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(4, 4));

@@ -207,6 +207,18 @@ TEST_F(LuDialogComponentTest, parentThatIsNoWindow_isReportedAndNotFatal) {
     EXPECT_EQ(m_probe->getWidget(), nullptr);
 }
 
+TEST_F(LuDialogComponentTest, classThatCantBeRegistered_isReportedAndTheNextBuildTriesAgain) {
+    LuWin::unregisterClasses();
+    LuWin::setRegisterClassHandler([](const WNDCLASSA&, void*) -> ATOM { return 0; }, nullptr);
+    expectMessage("LuDialogComponent Error", "RegisterClass failed");
+    expectMessage("LuDialogComponent Error", "CreateWindow failed");
+    build(m_probe.get(), m_parent, 1);
+    EXPECT_EQ(m_probe->getWidget(), nullptr);
+    LuWin::setRegisterClassHandler(nullptr, nullptr);
+    build(m_probe.get(), m_parent, 1);
+    EXPECT_TRUE(IsWindow(m_probe->getWidget()));
+}
+
 TEST_F(LuDialogComponentTest, resetSize_forgetsComputedSizes) {
     build(m_probe.get(), m_parent, 1);
     m_probe->resetSize();

@@ -49,6 +49,21 @@ TEST_F(LuTopLevelDialogTest, build_makesABaseAnInnerAndACarrierWindow) {
     EXPECT_FALSE(IsWindowVisible(base));
 }
 
+TEST_F(LuTopLevelDialogTest, classesThatCantBeRegistered_areReportedAndTheDialogStaysWithoutWindows) {
+    LuWin::unregisterClasses();
+    LuWin::setRegisterClassHandler([](const WNDCLASSA&, void*) -> ATOM { return 0; }, nullptr);
+    expectMessage("LuTopLevelDialog Error", "Register Base Class failed");
+    expectMessage("LuTopLevelDialog Error", "Create Base Window failed");
+    expectMessage("LuTopLevelDialog Error", "RegisterClass failed");
+    expectMessage("LuTopLevelDialog Error", "Create TopLevel Window failed");
+    LuTopLevelDialog* const dialog = buildDialog("TopLevelDialog { }");
+    LuWin::setRegisterClassHandler(nullptr, nullptr);
+    EXPECT_EQ(dialog->getBaseWidget(), nullptr);
+    EXPECT_EQ(dialog->getWidget(), nullptr);
+    dialog->show();
+    dialog->hide();
+}
+
 TEST_F(LuTopLevelDialogTest, showAndHide_areOfTheBaseWindow) {
     LuTopLevelDialog* const dialog = buildDialog(s_oneChild);
     dialog->show();
