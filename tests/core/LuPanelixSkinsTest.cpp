@@ -17,7 +17,8 @@ protected:
         const std::filesystem::path folder = std::filesystem::path(getTestOutputFolder()) / "skins" / name;
         std::filesystem::remove_all(folder);
         std::filesystem::create_directories(folder);
-        std::filesystem::copy("data/Panelix/skins/default", folder);
+        for (const auto& file : std::filesystem::directory_iterator("data/Panelix/skins/default"))
+            std::filesystem::copy_file(file.path(), folder / file.path().filename());
         std::ofstream(folder / "TextProperties.lum")
             << "#Lumora V2.0 ascii\nDEF DialogTextProperties Group { Font { size " << fontSize << " } }\n";
         return folder.generic_string();
