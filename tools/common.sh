@@ -14,7 +14,7 @@ PACKAGES_NATIVE="cmake ninja-build ccache g++ googletest libglm-dev libfreetype-
     libglu1-mesa-dev libglfw3-dev libegl-dev libgl-dev libstb-dev libcli11-dev libgl1-mesa-dri fonts-wine
     xvfb"
 PACKAGES_WINDOWS="cmake ninja-build ccache g++-mingw-w64-x86-64-posix googletest libglm-dev libstb-dev libcli11-dev
-    wine wine64 fonts-wine xvfb xdotool libgl1-mesa-dri libxcomposite1"
+    wine wine64 fonts-wine xvfb xdotool x11-apps netpbm libgl1-mesa-dri libxcomposite1"
 PACKAGES_FUZZ="clang llvm libclang-rt-dev"
 PACKAGES_BENCH="qt6-base-dev qt6-tools-dev libqt6opengl6-dev"
 }

@@ -50,6 +50,8 @@ int main(int argumentCount, char** arguments) {
                  "Exit status: 0 all files are good, 1 a file has a fault, 2 wrong use.");
     std::vector<std::string> files;
     app.add_option("FILE", files, "Dialog files, text or binary")->required();
+    // A path that begins with a slash is a file, not an option.
+    app.allow_windows_style_options(false);
     try {
         app.parse(argumentCount, arguments);
     } catch (const CLI::ParseError& error) {

@@ -14,6 +14,8 @@
 
 namespace {
 
+enum ExitStatus { GOOD = 0, FAULTY = 1, WRONG_USE = 2 };
+
 struct Options {
     std::vector<std::string> files;
     std::string id;
@@ -144,23 +146,30 @@ int run(const Options& options) {
     if (!options.skin.empty())
         LuPanelix::setSkin(options.skin);
     if (!loadDialogs(options, options.areEventsPrinted ? &printer : nullptr, dialogs))
-        return 1;
+        return FAULTY;
     if (!options.tree.empty())
         printTrees(dialogs, options.tree == "json");
     else if (!options.snapshot.empty())
-        return takeSnapshot(dialogs, options.snapshot) ? 0 : 1;
+        return takeSnapshot(dialogs, options.snapshot) ? GOOD : FAULTY;
     else
         runDialogs(dialogs);
-    return 0;
+    return GOOD;
 }
 
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    CLI::App app("Shows the dialogs of files as windows.");
+    CLI::App app("Shows the dialogs of files as windows; ends when the last of them has been closed.\n"
+                 "Exit status: 0 all went well, 1 a file or the picture is at fault, 2 wrong use.");
     Options options;
     addOptions(app, options);
-    CLI11_PARSE(app, argumentCount, arguments);
+    // A path that begins with a slash is a file, not an option.
+    app.allow_windows_style_options(false);
+    try {
+        app.parse(argumentCount, arguments);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? GOOD : WRONG_USE;
+    }
     // The program is about windows, be they real or in memory.
     LuDBImpl::m_isHeadless = false;
     LuPanelix::init();
