@@ -84,8 +84,11 @@ protected:
         luDispatchToAuditor(*auditor, *component, m_kind);
     }
 
-    /// For destructors: ends the windows of the children.
+    /// Ends the windows of the children.
     void destroyChildWidgets();
+
+    /// For destructors: the children lose their windows and forget their container.
+    void letChildrenGo();
 
     void internalAddChild(LuNode* child) override;
     int internalFindChild(const LuNode* child) const override;

@@ -57,6 +57,24 @@ TEST_F(LuDialogGroupTest, insertChildPastTheEnd_appends) {
     EXPECT_EQ(row->getChild(-1), nullptr);
 }
 
+TEST_F(LuDialogGroupTest, childThatOutlivesItsGroup_hasNoParent) {
+    Held<LuDialogComponent> child;
+    {
+        Held<LuRowDialog> row;
+        row->addChild(child.get());
+        EXPECT_EQ(child->getParent(), row.get());
+    }
+    EXPECT_EQ(child->getParent(), nullptr);
+}
+
+TEST_F(LuDialogGroupTest, childThatLeaves_keepsItsParent) {
+    Held<LuDialogComponent> child;
+    Held<LuRowDialog> row;
+    row->addChild(child.get());
+    row->removeChild(child.get());
+    EXPECT_EQ(child->getParent(), row.get());
+}
+
 TEST_F(LuDialogGroupTest, insertChildOfNull_isIgnored) {
     Held<LuRowDialog> row;
     row->insertChild(nullptr, 0);

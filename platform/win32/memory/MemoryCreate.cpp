@@ -120,7 +120,10 @@ bool announce(LuMemoryWindow& window, const Request& request, const wchar_t* wid
     limitSize(window, create);
     if (findMemoryWindow(handle) != &window)
         return false;
-    window.rect = {create.x, create.y, create.x + create.cx, create.y + create.cy};
+    // So far out nobody sees the difference, and frames can be added to it.
+    constexpr int farthest = 1 << 30;
+    const int x = std::clamp(create.x, -farthest, farthest), y = std::clamp(create.y, -farthest, farthest);
+    window.rect = {x, y, addPixels(x, create.cx), addPixels(y, create.cy)};
     const auto lParam = reinterpret_cast<LPARAM>(&create);
     if (!sendMessage(window, WM_NCCREATE, 0, lParam)) {
         if (findMemoryWindow(handle))

@@ -12,6 +12,7 @@ constexpr UINT noChange = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER;
 constexpr UINT changeMask = noChange | SWP_FRAMECHANGED | SWP_SHOWWINDOW | SWP_HIDEWINDOW;
 
 constexpr int largestSize = 32767;
+constexpr int firstPlace = -32768, lastPlace = 32767;
 
 LPARAM packPoint(LONG x, LONG y) { return MAKELPARAM(x, y); }
 
@@ -37,6 +38,8 @@ void reduce(LuMemoryWindow& window, WINDOWPOS& position) {
     const RECT& rect = window.rect;
     position.cx = std::clamp(position.cx, 0, largestSize);
     position.cy = std::clamp(position.cy, 0, largestSize);
+    position.x = std::clamp(position.x, firstPlace, lastPlace);
+    position.y = std::clamp(position.y, firstPlace, lastPlace);
     if (position.flags & SWP_NOSIZE) {
         position.cx = rect.right - rect.left;
         position.cy = rect.bottom - rect.top;

@@ -143,7 +143,8 @@ BOOL ScrollWindow(HWND handle, int dx, int dy, const RECT* rect, const RECT*) {
     LuMemoryWindow* child = window->firstChild;
     while (child) {
         const HWND childHandle = getHandle(child);
-        placeWindow(*child, {childHandle, nullptr, child->rect.left + dx, child->rect.top + dy, 0, 0, flags});
+        const int x = addPixels(child->rect.left, dx), y = addPixels(child->rect.top, dy);
+        placeWindow(*child, {childHandle, nullptr, x, y, 0, 0, flags});
         if (!findMemoryWindow(handle))
             return TRUE;
         child = findMemoryWindow(childHandle) ? child->below : nullptr;

@@ -3,7 +3,9 @@
 
 #include "platform/win32/WindowSystem.h"
 
+#include <algorithm>
 #include <array>
+#include <climits>
 #include <cstddef>
 #include <deque>
 #include <string>
@@ -110,6 +112,12 @@ inline LuMemoryWindow* findMemoryWindowOrFail(HWND handle) {
 
 /// The handle of a window; null for null.
 inline HWND getHandle(const LuMemoryWindow* window) { return window ? window->handle : nullptr; }
+
+/// The sum of two coordinates; it never wraps.
+inline int addPixels(int left, int right) {
+    const std::int64_t sum = std::int64_t{left} + right;
+    return static_cast<int>(std::clamp<std::int64_t>(sum, INT_MIN, INT_MAX));
+}
 
 inline bool isChildStyle(DWORD style) { return (style & (WS_CHILD | WS_POPUP)) == WS_CHILD; }
 

@@ -45,6 +45,12 @@ TEST_F(WindowPlace, negativeSize_becomesZero) {
     EXPECT_EQ(rectOf(child), (RECT{3, 4, 3, 4}));
 }
 
+TEST_F(WindowPlace, placeAndSizeFarOut_areHeldWithinSixteenBits) {
+    HWND child = createChild("child", createTop(), {3, 4, 100, 50});
+    SetWindowPos(child, nullptr, 2147483647, -2147483647 - 1, 40000, 10, SWP_NOZORDER);
+    EXPECT_EQ(rectOf(child), (RECT{32767, -32768, 32767 + 32767, -32768 + 10}));
+}
+
 TEST_F(WindowPlace, childrenMoveWithTheirParentAndHearNothing) {
     HWND top = createTop();
     HWND parent = createChild("parent", top, {10, 20, 110, 120});
