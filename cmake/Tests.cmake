@@ -31,3 +31,13 @@ gtest_discover_tests(panelix-tests
     DISCOVERY_TIMEOUT 120
     WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
     PROPERTIES TIMEOUT 120)
+
+# tests/desktop/X.cpp becomes the program desktop-X, which a desktop test starts beside the one that it tests.
+if(WIN32)
+    file(GLOB helpers CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/desktop/*.cpp)
+    foreach(helper IN LISTS helpers)
+        cmake_path(GET helper STEM name)
+        add_executable(desktop-${name} ${helper})
+        target_link_libraries(desktop-${name} PRIVATE panelix-options)
+    endforeach()
+endif()

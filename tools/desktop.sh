@@ -147,13 +147,13 @@ press_key() {
 
 # drag_corner DX DY: the lower right corner of the frame, in steps as a hand does.
 drag_corner() {
-    local width height i
+    local width height
     read -r width height < <(get_size)
     timeout 5 xdotool mousemove --window "$window" $((width - 2)) $((height - 2))
     settle
     timeout 5 xdotool mousedown 1
     settle
-    for i in 1 2 3 4; do
+    for _ in 1 2 3 4; do
         timeout 5 xdotool mousemove_relative -- $(($1 / 4)) $(($2 / 4))
         sleep 0.1
     done

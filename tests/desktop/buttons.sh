@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# shellcheck shell=bash disable=SC2154 # tests/desktop/run sets the variables
+# shellcheck shell=bash disable=SC2034,SC2154 # variables of tests/desktop/run
 # Push buttons by mouse and keyboard.
 
 start_three_buttons() {
@@ -90,4 +90,11 @@ test_tab_keepsItsOrderAfterTheWindowWasResized() {
     press_key Tab
     press_key space
     expect_equal events 'first second' "$(get_events)"
+}
+
+test_tabAfterTheDialogOpened_reachesTheFirstButton() {
+    start_three_buttons
+    press_key Tab
+    press_key space
+    expect_equal events first "$(get_events)"
 }

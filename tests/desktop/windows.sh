@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# shellcheck shell=bash disable=SC2154 # tests/desktop/run sets the variables
+# shellcheck shell=bash disable=SC2034,SC2154 # variables of tests/desktop/run
 # The frame of a dialog: its corner, its size, its scroll bars, its title bar.
 
 start_one_button() {
