@@ -22,6 +22,12 @@ bool s_isFirstMissingFile = true;
 /// The name of a group while another is read in its place.
 LvName getTemporaryName(const LvString& part) { return "_Zph_Tmp_" + part; }
 
+/// All that was ever read for skins. It stays for good: its groups are found by their names.
+std::vector<LuGroup*>& getSkinRoots() {
+    static auto& s_roots = *new std::vector<LuGroup*>;
+    return s_roots;
+}
+
 LuGroup* findGroup(LvName name) {
     LuNode* const node = LuNode::getByName(name);
     return node && node->isOfType(LuGroup::getClassTypeId()) ? static_cast<LuGroup*>(node) : nullptr;
@@ -146,7 +152,8 @@ void LuPanelix::readDefaultSkinsParts(const LvString& file, const char* text) {
         input.setBuffer(text, std::strlen(text));
         root = LuDB::readAll(&input);
     }
-    // The reference stays for good: the groups are found by their names.
-    if (root)
-        root->ref();
+    if (!root)
+        return;
+    root->ref();
+    getSkinRoots().push_back(root);
 }
