@@ -82,16 +82,6 @@ void LuChildHolder<Base, Child>::destroyChildWidgets() {
 }
 
 template <class Base, class Child>
-void LuChildHolder<Base, Child>::letChildrenGo() {
-    destroyChildWidgets();
-    for (int i = 0; i < m_numChildren; ++i) {
-        Child* const child = LuChildHolder::getChild(i);
-        if (child->getParent() == this)
-            child->setParent(nullptr);
-    }
-}
-
-template <class Base, class Child>
 void LuChildHolder<Base, Child>::replaceChild(int index, Child* newChild) {
     if (index >= 0 && index < m_numChildren && newChild) {
         getChild(index)->destroyWidget();

@@ -87,9 +87,6 @@ protected:
     /// Ends the windows of the children.
     void destroyChildWidgets();
 
-    /// For destructors: the children lose their windows and forget their container.
-    void letChildrenGo();
-
     void internalAddChild(LuNode* child) override;
     int internalFindChild(const LuNode* child) const override;
     void internalInsertChild(LuNode* child, int index) override;

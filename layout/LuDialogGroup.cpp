@@ -17,7 +17,7 @@ LuDialogGroup::LuDialogGroup() : LuChildHolder(LuAuditorContainer::GROUP) {
     constructor.enumField("hScrollVisibility", hScrollVisibility, "ScrollVisibility", {});
 }
 
-LuDialogGroup::~LuDialogGroup() { letChildrenGo(); }
+LuDialogGroup::~LuDialogGroup() { destroyChildWidgets(); }
 
 void LuDialogGroup::fixSizeWithBorder(LvVec2i32& size, int sign) {
     if (m_scrollBars.vShown || vScrollVisibility.getValue() == ALWAYS)

@@ -42,7 +42,7 @@ LuTopLevelDialog::LuTopLevelDialog()
 }
 
 LuTopLevelDialog::~LuTopLevelDialog() {
-    letChildrenGo();
+    destroyChildWidgets();
     for (const HWND window : {m_topWidget, m_baseWidget}) {
         if (!existWidget(window))
             continue;
