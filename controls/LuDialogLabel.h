@@ -5,10 +5,10 @@
 
 /// A fixed text, which takes no input and has no events.
 ///
-/// | field            | windows                          | 3D |
-/// |------------------|----------------------------------|---------------------------------------------------|
-/// | `label`          | the text of a "STATIC"           | the lines of a text, wrapped at the width | |
-/// `labelAlignment` | where the text stands in the whole component | the same                              |
+/// | field            | windows                                      | 3D                                        |
+/// |------------------|----------------------------------------------|-------------------------------------------|
+/// | `label`          | the text of a "STATIC"                       | the lines of a text, wrapped at the width |
+/// | `labelAlignment` | where the text stands in the whole component | the same                                  |
 ///
 /// The text takes no place in the label column of the container. `labelVisibility` has no effect on it.
 class LuDialogLabel : public LuControl {

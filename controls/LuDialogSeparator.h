@@ -6,9 +6,9 @@
 /// A thin line between the controls of a column or a row, 8 pixels thick. It takes no input and has no
 /// events, and no fields of its own: the container says which way it runs.
 ///
-/// | field       | windows                                          | 3D                             |
-/// |-------------|--------------------------------------------------|--------------------------------|
-/// | `edgeStyle` | the inset of the line; the carrier's frame is that of the build | none            |
+/// | field       | windows                                                         | 3D   |
+/// |-------------|-----------------------------------------------------------------|------|
+/// | `edgeStyle` | the inset of the line; the carrier's frame is that of the build | none |
 class LuDialogSeparator : public LuControl {
     LU_KIT_HEADER(LuDialogSeparator)
     LU_SKIN_HEADER(DialogSeparator)

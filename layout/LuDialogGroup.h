@@ -10,12 +10,11 @@ class LuDialogGroupAuditor;
 
 /// A component that holds others: the base of columns, rows and tabs, which lay their children out.
 ///
-/// | field                      | effect                                                               |
-/// |----------------------------|----------------------------------------------------------------------|
-/// | `windowResizedByChildren`  | a change of the children gives the group the size that they need now |
-/// | `margin`                   | pixels kept free on all four sides inside                            |
-/// | `vScrollVisibility`, `hScrollVisibility` | NEVER, ALWAYS, or AUTO: when the room is too small; windows
-/// only |
+/// | field                                    | effect                                                               |
+/// |------------------------------------------|----------------------------------------------------------------------|
+/// | `windowResizedByChildren`                | a change of the children gives the group the size that they need now |
+/// | `margin`                                 | pixels kept free on all four sides inside                            |
+/// | `vScrollVisibility`, `hScrollVisibility` | NEVER, ALWAYS, or AUTO: when the room is too small; windows only     |
 ///
 /// The children are owned by references. After the first build every change of them rebuilds the dialog that
 /// the group belongs to.

@@ -12,21 +12,21 @@ class LuTopLevelAuditor;
 /// The root of a dialog: a frame window, and a panel in 3D. Its children, controls and a menu bar, are
 /// stacked from the top; their labels and controls are aligned in two common columns.
 ///
-/// | field                         | windows                                   | 3D |
-/// |-------------------------------|-------------------------------------------|-----------------------------|
-/// | `width`, `height`             | of the window with its frame; 0: from the children | of the panel | |
-/// `minWidth` ... `maxHeight`    | limits for the user; 0: from the children | -                           |
-/// | `position`                    | on the screen, follows the window         | - | | `position3D` | - |
-/// top-left corner, y growing downwards as in windows  | | `resizable`                   | whether the user
-/// can change the size      | -                           | | `margin`, `rowSpacing`        | pixels on all
-/// sides inside, and between two children | the same         | | `modalFrame`                  | frame of a
-/// modal dialog, always on top    | -                           | | `hideChildren`                | - | the
-/// children don't follow a move of the panel       | | `minimized`                   | -                 |
-/// collapsed to a strip with the title                 | | `minimized3DPosition`         | - | top-left
-/// corner of the strip                        | | `independentMinimizedPosition`| -                 | FALSE:
-/// of the two positions one follows the other   | | `windowResizedByChildren`     | a change of the children
-/// brings back the sizes that the user set        | | `vScrollVisibility`, `hScrollVisibility` | NEVER,
-/// ALWAYS, or AUTO: when the room is too small | -       |
+/// | field                                    | windows                                                          | 3D                                                               |
+/// |------------------------------------------|------------------------------------------------------------------|------------------------------------------------------------------|
+/// | `width`, `height`                        | of the window with its frame; 0: from the children               | of the panel                                                     |
+/// | `minWidth` ... `maxHeight`               | limits for the user; 0: from the children                        | -                                                                |
+/// | `position`                               | on the screen, follows the window                                | -                                                                |
+/// | `position3D`                             | -                                                                | top-left corner, y growing downwards as in windows               |
+/// | `resizable`                              | whether the user can change the size                             | -                                                                |
+/// | `margin`, `rowSpacing`                   | pixels on all sides inside, and between two children             | the same                                                         |
+/// | `modalFrame`                             | frame of a modal dialog, always on top                           | -                                                                |
+/// | `hideChildren`                           | -                                                                | a drag of the panel hides the children; they don't follow a move |
+/// | `minimized`                              | -                                                                | collapsed to a strip with the title                              |
+/// | `minimized3DPosition`                    | -                                                                | top-left corner of the strip                                     |
+/// | `independentMinimizedPosition`           | -                                                                | FALSE: of the two positions one follows the other                |
+/// | `windowResizedByChildren`                | a change of the children brings back the sizes that the user set | the same                                                         |
+/// | `vScrollVisibility`, `hScrollVisibility` | NEVER, ALWAYS, or AUTO: when the room is too small               | -                                                                |
 ///
 /// A program builds the tree or loads it, calls buildDialog and show, and lets the messages of the window
 /// system be handled. The children are owned by references.
