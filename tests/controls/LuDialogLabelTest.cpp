@@ -253,6 +253,26 @@ TEST_F(LuDialogLabelTest, rightText_stands3UnitsAndItsWidthInside3D) {
     EXPECT_EQ(getTextPlace3D().x, std::trunc(201 * 0.5 - 3 - (box.max.x - box.min.x)));
 }
 
+TEST_F(LuDialogLabelTest, newAlignment_movesTheTextByTheNextBuild3D) {
+    m_label->label = "Some text";
+    m_label->width = 201;
+    build3D(*m_label);
+    const LvVec3f before = getTextPlace3D();
+    m_label->labelAlignment = LuPanelix::LEFT;
+    EXPECT_EQ(getTextPlace3D(), before);
+    LvVec2i32 size, position;
+    m_label->buildWidget(nullptr, size, position, 0);
+    EXPECT_EQ(getTextPlace3D().x, -97);
+}
+
+TEST_F(LuDialogLabelTest, widthWithoutRoomForText_isNotWrapped3D) {
+    m_label->minWidth = 1;
+    m_label->width = 6;
+    m_label->label = "Some text";
+    build3D(*m_label);
+    EXPECT_EQ(getLines(getText3()), Lines({"Some text"}));
+}
+
 TEST_F(LuDialogLabelTest, extremeWidth_isPlacedWithoutOverflow) {
     m_label->label = "Some text";
     m_label->minWidth = std::numeric_limits<int>::min();

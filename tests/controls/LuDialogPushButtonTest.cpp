@@ -3,6 +3,7 @@
 
 #include "auditors/LuDialogPushButtonAuditor.h"
 #include "layout/LuTopLevelDialog.h"
+#include "platform/lumora/nodes/LuProperties.h"
 #include "tests/controls/ControlTest.h"
 
 #include <cmath>
@@ -187,6 +188,19 @@ TEST_F(LuDialogPushButtonTest, windowsDestroyed_leaveNoHandles) {
     EXPECT_EQ(m_button->getLabelWidget(), nullptr);
     buildWindows(*m_button);
     EXPECT_TRUE(IsWindow(getNative()));
+}
+
+TEST_F(LuDialogPushButtonTest, lastReference_endsTheWindows) {
+    HWND native = nullptr, label = nullptr;
+    {
+        const Held<LuDialogPushButton> button;
+        buildWindows(*button);
+        native = button->getButtonWidget();
+        label = button->getLabelWidget();
+        ASSERT_TRUE(IsWindow(native) && IsWindow(label));
+    }
+    EXPECT_FALSE(IsWindow(native));
+    EXPECT_FALSE(IsWindow(label));
 }
 
 TEST_F(LuDialogPushButtonTest, noCarrierWindow_leavesTheButtonWithoutWindows) {
@@ -416,6 +430,35 @@ TEST_F(LuDialogPushButtonTest, pressedGeometry_isShownWhileReleased3D) {
     EXPECT_EQ(looks->getChild(1), two.get());
 }
 
+TEST_F(LuDialogPushButtonTest, geometryGivenBeforeTheFirstBuild_isNotTaken3D) {
+    const Held<LuSeparator> one, two;
+    m_button->set3DPressedGeometry(one.get());
+    m_button->set3DReleasedGeometry(two.get());
+    build3D(*m_button);
+    EXPECT_EQ(getPartAs(*m_button, "frameSwitch")->getChild(0), m_button->getPart("released", false));
+    EXPECT_EQ(getPartAs(*m_button, "frameSwitch")->getChild(1), m_button->getPart("pressed", false));
+}
+
+TEST_F(LuDialogPushButtonTest, newSkin_keepsThePartsAndIsLoaded3D) {
+    build3D(*m_button);
+    LuNode* const look = m_button->getPart("pressed", false);
+    LuDialogPushButton::setSkinLoaded(0);
+    LuDialogPushButton::change3DSkin();
+    EXPECT_TRUE(LuDialogPushButton::isSkinLoaded());
+    EXPECT_EQ(m_button->getPart("pressed", false), look);
+    EXPECT_EQ(static_cast<LuGroup*>(look)->getNumChildren(), 4);
+    EXPECT_EQ(LuNode::getByName("DialogPushButtonPressed"), look);
+}
+
+TEST_F(LuDialogPushButtonTest, disabledButton_cannotBePicked3D) {
+    build3D(*m_button);
+    m_button->setCanBeTraversed(0);
+    m_button->enable = false;
+    m_button->setCanBeTraversed(1);
+    m_button->change3DEnable();
+    EXPECT_EQ(getChildAs<LuPickStyle>(*m_button, "geomSwitch", 1)->style.getValue(), LuPickStyle::UNPICKABLE);
+}
+
 TEST_F(LuDialogPushButtonTest, labelVisibility_isASwitch3D) {
     m_button->label = "Here:";
     buildWithColumn(0, {201, 40});
@@ -423,6 +466,17 @@ TEST_F(LuDialogPushButtonTest, labelVisibility_isASwitch3D) {
     m_button->change3DLabelVisibility();
     EXPECT_EQ(getSwitch(*m_button, "labelSwitch"), -1);
     EXPECT_EQ(getChildAs<LuScale>(*m_button, "frameSep", 0)->scaleFactor.getValue(), LvVec3f(195, 34, 1));
+}
+
+TEST_F(LuDialogPushButtonTest, state3D_isAnyNumberButZero) {
+    build3D(*m_button);
+    m_button->change3DButtonState(-7);
+    EXPECT_EQ(getShown3D(), 1);
+    EXPECT_EQ(getLift3D(), 1.0F);
+    m_button->change3DButtonState(0);
+    EXPECT_EQ(getShown3D(), 0);
+    EXPECT_EQ(getLift3D(), 2.0F);
+    EXPECT_EQ(m_presses.m_count, 0);
 }
 
 TEST_F(LuDialogPushButtonTest, changesBeforeTheFirstBuild_doNothing) {

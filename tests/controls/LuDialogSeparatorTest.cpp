@@ -79,6 +79,23 @@ TEST_F(LuDialogSeparatorTest, windowsDestroyed_canBeBuiltAgain) {
     EXPECT_TRUE(IsWindow(getChild()));
 }
 
+TEST_F(LuDialogSeparatorTest, lastReference_endsTheWindow) {
+    HWND child = nullptr;
+    {
+        const Held<LuDialogSeparator> line;
+        buildWindows(*line);
+        child = line->getSeparatorWidget();
+        ASSERT_TRUE(IsWindow(child));
+    }
+    EXPECT_FALSE(IsWindow(child));
+}
+
+TEST_F(LuDialogSeparatorTest, otherSizesThanTheThickness_areThoseOfTheBase) {
+    EXPECT_EQ(m_line->getComponentInitSize(), LvVec2i32(0, 0));
+    m_line->label = "Some text";
+    EXPECT_EQ(m_line->getLabelInitSize(), LuPanelix::getLabelPixelSize("Some text", nullptr));
+}
+
 TEST_F(LuDialogSeparatorTest, noCarrierWindow_leavesTheLineWithoutWindows) {
     expectMessage("LuDialogComponent Error", "CreateWindow failed");
     LvVec2i32 size, position;
