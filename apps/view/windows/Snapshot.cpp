@@ -2,14 +2,8 @@
 #include "apps/view/Snapshot.h"
 
 #include "platform/lumora/base/LuDebugError.h"
+#include "platform/lumora/base/LuPicture.h"
 #include "platform/lumora/win/LuWin.h"
-
-#define STB_IMAGE_WRITE_IMPLEMENTATION
-#define STBI_MSC_SECURE_CRT
-#include <stb/stb_image_write.h>
-
-#include <filesystem>
-#include <fstream>
 
 namespace {
 
@@ -31,8 +25,8 @@ RECT getUnion(const std::vector<HWND>& windows) {
     return all;
 }
 
-/// The pixels of a part of the screen, rows from the top, three bytes each.
-std::vector<unsigned char> readScreen(const RECT& rect, int width, int height) {
+/// A part of the screen; an empty picture when the system gives none.
+LuPicture readScreen(const RECT& rect, int width, int height) {
     const HDC screen = GetDC(nullptr);
     const HDC memory = CreateCompatibleDC(screen);
     BITMAPINFO info{};
@@ -43,25 +37,23 @@ std::vector<unsigned char> readScreen(const RECT& rect, int width, int height) {
     info.bmiHeader.biBitCount = 32;
     void* bits = nullptr;
     const HBITMAP bitmap = CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    std::vector<unsigned char> pixels;
+    LuPicture picture;
     if (bitmap) {
         const HGDIOBJ before = SelectObject(memory, bitmap);
         BitBlt(memory, 0, 0, width, height, screen, rect.left, rect.top, SRCCOPY);
         GdiFlush();
         const auto* source = static_cast<const unsigned char*>(bits);
-        for (std::size_t i = 0; i < static_cast<std::size_t>(width) * static_cast<std::size_t>(height); ++i)
-            pixels.insert(pixels.end(), {source[4 * i + 2], source[4 * i + 1], source[4 * i]});
+        picture = LuPicture(width, height);
+        for (LuPicture::Pixel& pixel : picture.getPixels()) {
+            pixel = {source[2], source[1], source[0], 255};
+            source += 4;
+        }
         SelectObject(memory, before);
         DeleteObject(bitmap);
     }
     DeleteDC(memory);
     ReleaseDC(nullptr, screen);
-    return pixels;
-}
-
-void append(void* context, void* data, int size) {
-    static_cast<std::string*>(context)->append(static_cast<const char*>(data),
-                                               static_cast<std::size_t>(size));
+    return picture;
 }
 
 } // namespace
@@ -71,17 +63,10 @@ bool writeSnapshot(const std::vector<HWND>& windows, const std::string& path) {
     const RECT rect = getUnion(windows);
     const int width = static_cast<int>(rect.right - rect.left);
     const int height = static_cast<int>(rect.bottom - rect.top);
-    const std::vector<unsigned char> pixels = readScreen(rect, width, height);
-    if (pixels.empty()) {
+    const LuPicture picture = readScreen(rect, width, height);
+    if (picture.isEmpty()) {
         LuDebugError::post("panelix-view", "There is nothing on the screen to make a picture of.");
         return false;
     }
-    std::string png;
-    stbi_write_png_to_func(&append, &png, width, height, 3, pixels.data(), width * 3);
-    std::ofstream file(std::filesystem::u8path(path), std::ios::binary);
-    file.write(png.data(), static_cast<std::streamsize>(png.size()));
-    file.close();
-    if (!file)
-        LuDebugError::post("panelix-view", "The picture \"%s\" can't be written.", path.c_str());
-    return !file.fail();
+    return picture.writePng(path);
 }
