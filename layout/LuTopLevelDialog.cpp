@@ -288,7 +288,7 @@ void LuTopLevelDialog::updateFromSensor(LuSensor* sensor) {
     } else if (sensor == m_minimizedSensor) {
         updateMinimizedState();
     } else if (sensor == m_independentMinimizedPositionSensor) {
-        connectPositions();
+        changeIndependentPosition();
     } else {
         LuPanelix::updateFromSensor(sensor);
     }

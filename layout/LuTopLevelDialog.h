@@ -170,7 +170,8 @@ private:
     void update3DChildrenPosition();
     LvVec3f get3DChildrenTranslation();
     void updateMinimizedState();
-    void connectPositions();
+    void followPositionInUse();
+    void changeIndependentPosition();
     void minimize3DDialog();
     void restore3DDialog();
 

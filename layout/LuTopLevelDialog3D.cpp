@@ -27,6 +27,12 @@ constexpr float MENU_HEIGHT = 18;
 /// Half of a size, as whole numbers.
 LvVec2i32 getHalf(LvVec2i32 size) { return size *= 0.5; }
 
+/// Ends a connection between two fields, and none that the program has made to another.
+void disconnectFrom(LuField& field, const LuField& master) {
+    if (field.getConnectedField() == &master)
+        field.disconnect();
+}
+
 } // namespace
 
 void LuTopLevelDialog::create3DTopLevelDialog() {
@@ -154,7 +160,7 @@ void LuTopLevelDialog::updateMinimizedState() {
         m_firstMinimize = 0;
     }
     if (!independentMinimizedPosition.getValue())
-        connectPositions();
+        followPositionInUse();
     if (!isBuilt3D())
         return;
     const int isMinimized = minimized.getValue();
@@ -166,17 +172,21 @@ void LuTopLevelDialog::updateMinimizedState() {
     show3DChildren(!isMinimized);
 }
 
-/// Lets the position that is not in use follow the one in use, or neither the other.
-void LuTopLevelDialog::connectPositions() {
-    const bool isMinimized = minimized.getValue();
-    position3D.disconnect();
-    minimized3DPosition.disconnect();
-    if (independentMinimizedPosition.getValue())
-        return;
-    if (isMinimized)
-        position3D.connectFrom(&minimized3DPosition);
-    else
-        minimized3DPosition.connectFrom(&position3D);
+/// Lets the position that is not in use follow the one in use.
+void LuTopLevelDialog::followPositionInUse() {
+    LuField& inUse = minimized.getValue() ? minimized3DPosition : position3D;
+    LuField& other = minimized.getValue() ? position3D : minimized3DPosition;
+    disconnectFrom(inUse, other);
+    other.connectFrom(&inUse);
+}
+
+void LuTopLevelDialog::changeIndependentPosition() {
+    if (independentMinimizedPosition.getValue()) {
+        disconnectFrom(position3D, minimized3DPosition);
+        disconnectFrom(minimized3DPosition, position3D);
+    } else {
+        followPositionInUse();
+    }
 }
 
 void LuTopLevelDialog::show3DChildren(int show) {

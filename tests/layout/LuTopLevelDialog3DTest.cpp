@@ -128,6 +128,90 @@ TEST_F(LuTopLevelDialog3DTest, dependentPositions_followTheOneInUse) {
     EXPECT_EQ(dialog->minimized3DPosition.getValue(), LvVec3f(1, 2, 3));
 }
 
+TEST_F(LuTopLevelDialog3DTest, connectionsOfTheProgram_outliveAChangeOfIndependence) {
+    LuTopLevelDialog* const dialog = buildDialog(s_dialog);
+    LuSFVec3f place;
+    dialog->position3D.connectFrom(&place);
+    dialog->independentMinimizedPosition = false;
+    dialog->independentMinimizedPosition = true;
+    EXPECT_EQ(dialog->position3D.getConnectedField(), &place);
+    EXPECT_FALSE(dialog->minimized3DPosition.isConnected());
+}
+
+TEST_F(LuTopLevelDialog3DTest, restoredDialogThatHidesItsChildren_leavesThemWhereTheyWere) {
+    LuTopLevelDialog* const dialog = buildDialog(s_dialog);
+    dialog->hideChildren = true;
+    dialog->minimized = true;
+    dialog->position3D = LvVec3f(100, 50, 0);
+    dialog->minimized = false;
+    EXPECT_EQ(getTranslation(dialog, "geomSwitch"), LvVec3f(250, -150, 0));
+    EXPECT_EQ(dialog->getChild(0)->get3DParentTranslation().x, 14);
+    EXPECT_EQ(getShown(dialog->getChild(0)), LuSwitch::SHOW_ALL);
+}
+
+TEST_F(LuTopLevelDialog3DTest, secondMinimizing_findsTheStripWhereItWasLeft) {
+    LuTopLevelDialog* const dialog = buildDialog(s_dialog);
+    dialog->minimized = true;
+    dialog->minimized3DPosition = LvVec3f(70, 80, 0);
+    dialog->minimized = false;
+    EXPECT_EQ(getTranslation(dialog, "geomSwitch"), LvVec3f(160, -120, 5));
+    dialog->minimized = true;
+    EXPECT_EQ(getTranslation(dialog, "geomSwitch"), LvVec3f(220, -90, 0));
+}
+
+TEST_F(LuTopLevelDialog3DTest, title_movesToTheMiddleOfTheStrip) {
+    LuTopLevelDialog* const dialog = buildDialog(s_dialog);
+    const LvVec3f before = getTranslation(dialog, "labelSep");
+    dialog->minimized = true;
+    EXPECT_EQ(getTranslation(dialog, "labelSep"), before - LvVec3f(0, 88, 0));
+}
+
+TEST_F(LuTopLevelDialog3DTest, hiddenDialog_hidesItsChildrenAndShowsThemAgain) {
+    LuTopLevelDialog* const dialog = buildDialog(s_dialog);
+    dialog->show3D(0);
+    EXPECT_EQ(getShown(dialog), LuSwitch::SHOW_NONE);
+    EXPECT_EQ(getShown(dialog->getChild(0)), LuSwitch::SHOW_NONE);
+    dialog->show3D(1);
+    EXPECT_EQ(getShown(dialog), LuSwitch::SHOW_ALL);
+    EXPECT_EQ(getShown(dialog->getChild(0)), LuSwitch::SHOW_ALL);
+}
+
+/// Stands for a menu bar.
+class Bar : public LuTopComponent {
+public:
+    LuMenuBar* asMenuBar() override { return reinterpret_cast<LuMenuBar*>(this); }
+    void show3DChildren(int show) override { m_shown = show; }
+    int m_shown = 1;
+};
+
+TEST_F(LuTopLevelDialog3DTest, menuBar_putsTheChildren18UnitsLowerAndIsClosedByTheStrip) {
+    LuTopLevelDialog* const dialog = buildDialog(s_dialog);
+    const LvVec3f before = dialog->getChild(0)->get3DParentTranslation();
+    auto* const bar = new Bar;
+    dialog->insertChild(bar, 0);
+    EXPECT_EQ(dialog->getChild(1)->get3DParentTranslation(), before - LvVec3f(0, 18, 0));
+    dialog->minimized = true;
+    EXPECT_EQ(bar->m_shown, 0);
+}
+
+TEST_F(LuTopLevelDialog3DTest, newSkin_keepsThePartsAndIsLoaded) {
+    LuTopLevelDialog* const dialog = buildDialog(s_dialog);
+    const struct {
+        const char* part;
+        const char* name;
+    } rows[] = {{"frame", "TopLevelDialogFrame"},
+                {"minReleased", "TopLevelDialogMinReleased"},
+                {"minPressed", "TopLevelDialogMinPressed"}};
+    LuTopLevelDialog::setSkinLoaded(0);
+    LuTopLevelDialog::change3DSkin();
+    EXPECT_TRUE(LuTopLevelDialog::isSkinLoaded());
+    for (const auto& row : rows) {
+        LuNode* const group = dialog->getPart(row.part, false);
+        EXPECT_EQ(LuNode::getByName(row.name), group) << row.part;
+        EXPECT_GT(static_cast<LuGroup*>(group)->getNumChildren(), 0) << row.part;
+    }
+}
+
 TEST_F(LuTopLevelDialog3DTest, positionsOfADialogThatIsNotBuilt_areHarmless) {
     LuTopLevelDialog* const dialog = read<LuTopLevelDialog>(s_dialog);
     dialog->buildDialog(nullptr, 0);
