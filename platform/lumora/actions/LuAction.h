@@ -5,6 +5,7 @@
 #include "platform/lumora/actions/LuTraversalState.h"
 
 class LuNode;
+class LvViewportRegion;
 
 /// Walks a graph, or the part of it that matters to a path, and does something at each node.
 class LuAction {
@@ -38,6 +39,9 @@ public:
 
     /// How many separators with a cache stand above the current node; 0 for an action that keeps no caches.
     virtual int getSeparatorDepth() const { return 0; }
+
+    /// The viewport that cameras fit what they see to; null for an action that does not look.
+    virtual const LvViewportRegion* getViewport() const { return nullptr; }
 
     /// Goes on with a child of the current node.
     void traverseChild(LuNode* child, int index);

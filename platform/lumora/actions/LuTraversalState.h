@@ -3,10 +3,26 @@
 
 #include "platform/lumora/base/LvMatrix.h"
 #include "platform/lumora/base/LvName.h"
+#include "platform/lumora/base/LvViewVolume.h"
 
 class LuClipPlane;
 class LuCoordinate3;
 class LuMaterial;
+
+/// What the current camera sees. There is none before the first camera, nor in an action without a viewport.
+class LuViewVolumeElement {
+public:
+    bool isSet() const { return m_isSet; }
+    const LvViewVolume& get() const { return m_volume; }
+    void set(const LvViewVolume& volume) {
+        m_volume = volume;
+        m_isSet = true;
+    }
+
+private:
+    LvViewVolume m_volume;
+    bool m_isSet = false;
+};
 
 /// What the nodes of a traversal hand on to those after them. Plain data: separators save it as a whole and
 /// bring it back. The nodes pointed to live longer than the traversal.
@@ -14,6 +30,8 @@ class LuTraversalState {
 public:
     LvMatrix model; ///< From the current node's space to that of the innermost separator with a cache, or the
                     ///< root's where the action keeps no caches.
+
+    LuViewVolumeElement viewVolume;
 
     LvName fontName{"Tahoma"};
     float fontSize = 10.0F; ///< Scene units.

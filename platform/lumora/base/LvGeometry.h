@@ -78,6 +78,15 @@ public:
         return m_size.y > 0 ? static_cast<float>(m_size.x) / static_cast<float>(m_size.y) : 1.0F;
     }
 
+    /// The middle of a pixel, counted from (0, 0) in the lower left corner, as a share of the region: from
+    /// (0, 0) to (1, 1), and beyond that for a pixel outside. (0, 0) for a region without a size.
+    LvVec2f getNormalizedPosition(const LvVec2i32& pixel) const {
+        const auto share = [](int place, int size) {
+            return size > 0 ? (static_cast<float>(place) + 0.5F) / static_cast<float>(size) : 0.0F;
+        };
+        return {share(pixel.x, m_size.x), share(pixel.y, m_size.y)};
+    }
+
     friend bool operator==(const LvViewportRegion&, const LvViewportRegion&) = default;
 
 private:

@@ -220,10 +220,18 @@ void LvMatrix::scaleBy(const LvVec3f& by) {
 }
 
 LvMatrix LvMatrix::inverse() const {
+    LvMatrix result;
+    return getInverse(result) ? result : LvMatrix();
+}
+
+bool LvMatrix::getInverse(LvMatrix& result) const {
     // In float the determinant of a matrix that scales by a millionth would already lose its digits.
     const glm::dmat4 exact(m_matrix);
     if (glm::determinant(exact) == 0)
-        return {};
-    const glm::mat4 result(glm::inverse(exact));
-    return isFinite(result) ? LvMatrix(result) : LvMatrix();
+        return false;
+    const glm::mat4 inverted(glm::inverse(exact));
+    if (!isFinite(inverted))
+        return false;
+    result.m_matrix = inverted;
+    return true;
 }

@@ -43,6 +43,9 @@ public:
     /// The inverse; the identity for a matrix that has none.
     LvMatrix inverse() const;
 
+    /// The inverse; false, and nothing is set, for a matrix that has none.
+    bool getInverse(LvMatrix& result) const;
+
     const glm::mat4& glm() const { return m_matrix; }
     float& at(int column, int row) { return m_matrix[column][row]; }
     float at(int column, int row) const { return m_matrix[column][row]; }

@@ -3,6 +3,7 @@
 
 #include "platform/lumora/io/LuInput.h"
 #include "platform/lumora/kits/LuDragger.h"
+#include "platform/lumora/nodes/LuCamera.h"
 #include "platform/lumora/nodes/LuGroup.h"
 #include "platform/lumora/nodes/LuProperties.h"
 #include "platform/lumora/nodes/LuText3.h"
@@ -33,6 +34,9 @@ void registerClasses() {
     LuFont::initClass();
     LuCoordinate3::initClass();
     LuClipPlane::initClass();
+    LuCamera::initClass();
+    LuPerspectiveCamera::initClass();
+    LuOrthographicCamera::initClass();
     LuShape::initClass();
     LuCube::initClass();
     LuSphere::initClass();
