@@ -71,7 +71,7 @@ LvVec3f LuControl::getContentSize3D() const {
 }
 
 void LuControl::getLabelRow(int room, int& y, int& rowHeight) {
-    rowHeight = getLabelPixelSize(label.getValue(), this).y;
+    rowHeight = m_labelSizeInRow.get(label.getValue(), this).y;
     y = luAddSize(height.getValue(), -std::int64_t{room} - rowHeight) / 2 + getEdgeInset();
 }
 

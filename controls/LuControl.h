@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/LuTextSize.h"
 #include "layout/LuDialogComponent.h"
 
 /// What the controls share: the windows inside the carrier window, and the way to their parts.
@@ -60,4 +61,7 @@ protected:
 
     /// Moves a text by half its height down, so that it stands in the middle of y 0. `x` is its left end.
     static LvVec3f getTextPlace(float x, const LvBox3f& box);
+
+private:
+    LuTextSize m_labelSizeInRow;
 };

@@ -19,6 +19,7 @@ void LuAction::apply(LuNode* node) {
     start();
     if (m_keepsSteps)
         m_steps.push_back({node, -1});
+    node->noteVisit();
     visit(node);
     end();
     node->unref();
@@ -35,6 +36,7 @@ void LuAction::apply(const LuPath& path) {
     start();
     if (m_keepsSteps)
         m_steps.push_back({held.getHead(), -1});
+    held.getHead()->noteVisit();
     visit(held.getHead());
     end();
     m_path = nullptr;
@@ -81,6 +83,7 @@ LuAction::PathCode LuAction::codeAt(int pathDepth) const {
 void LuAction::visitChild(LuNode* child, int index) {
     if (m_keepsSteps)
         m_steps.push_back({child, index});
+    child->noteVisit();
     visit(child);
     if (m_keepsSteps)
         m_steps.pop_back();

@@ -34,7 +34,9 @@ LuGetBoundingBoxAction::Saved LuGetBoundingBoxAction::enterSeparator() {
 void LuGetBoundingBoxAction::leaveSeparator(const Saved& saved, LuBoundingBoxCache* cache) {
     const LvBox3f content = m_box;
     if (cache && m_usedDepth >= m_separatorDepth)
-        cache->set(content);
+        cache->finish(content);
+    else if (cache)
+        cache->giveUp();
     --m_separatorDepth;
     m_usedDepth = std::min(m_usedDepth, saved.usedDepth);
     m_state = saved.state;

@@ -33,6 +33,8 @@ public:
             extendBy(cache.getBox());
             return;
         }
+        if (isWhole)
+            cache.begin();
         const Saved saved = enterSeparator();
         traverseContent();
         leaveSeparator(saved, isWhole ? &cache : nullptr);

@@ -85,10 +85,13 @@ void LuBase::startNotify(LuField* field) {
     notify(notification);
 }
 
+int LuBase::s_numListeners = 0;
+
 void LuBase::notify(LuNotification& notification) {
-    if (m_notifyStamp == notification.stamp)
+    if (m_notifyStamp == notification.stamp || (m_hasToldAbove && s_numListeners == 0))
         return;
     m_notifyStamp = notification.stamp;
+    m_hasToldAbove = true;
     const LuKeepAlive alive(this);
     invalidateCaches();
     const bool wasMuted = notification.isMuted;

@@ -81,7 +81,21 @@ public:
     void startNotify(LuField* field = nullptr);
 
     /// Takes a change in from below and hands it on. Called by the fields and lists that hold objects.
-    virtual void notify(LuNotification& notification);
+    ///
+    /// All that lies above an object hears of a change at once, but of further changes only after a traversal
+    /// has come by: what was computed above has been dropped already, and nobody can have computed it anew.
+    /// So the thousands of changes by which a graph is set up cost little each. While anybody must hear of
+    /// every change (addListener), all changes climb.
+    void notify(LuNotification& notification);
+
+    /// To be called by whatever computes and keeps something that depends on this object, before it does. An
+    /// action does it for each object it comes to.
+    void noteVisit() const { m_hasToldAbove = false; }
+
+    /// Counts those who must hear of every change, wherever they stand: the sensors on nodes, and all that
+    /// observes a field which holds nodes.
+    static void addListener() { ++s_numListeners; }
+    static void removeListener() { --s_numListeners; }
 
     void addObserver(LuObserver observer) { m_observers.add(observer); }
     void removeObserver(LuObserver observer) { m_observers.remove(observer); }
@@ -127,4 +141,6 @@ private:
     LuObserverList m_observers;
     std::uint32_t m_notifyStamp = 0;
     bool m_isNotifyEnabled = true;
+    mutable bool m_hasToldAbove = false; ///< Since the last traversal.
+    static int s_numListeners;
 };

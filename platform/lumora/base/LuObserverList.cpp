@@ -1,19 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "platform/lumora/base/LuObserverList.h"
 
+#include <new>
+
 namespace {
 
-constexpr std::size_t ORDERED_LENGTH = 16;
-constexpr std::size_t NOT_FOUND = static_cast<std::size_t>(-1);
+constexpr std::uint32_t ORDERED_LENGTH = 16;
+constexpr std::uint32_t FIRST_CAPACITY = 3;
+constexpr std::uint32_t NOT_FOUND = 0xFFFFFFFF;
 
 /// Looks from both ends at once: nodes that came together go together, so the one sought is near an end.
-std::size_t findFromEnds(const std::vector<LuObserver>& list, LuObserver observer) {
-    std::size_t low = 0;
-    std::size_t high = list.size();
+std::uint32_t findFromEnds(const std::uintptr_t* list, std::uint32_t length, std::uintptr_t bits) {
+    std::uint32_t low = 0;
+    std::uint32_t high = length;
     while (low < high) {
-        if (list[low] == observer)
+        if (list[low] == bits)
             return low;
-        if (list[--high] == observer)
+        if (list[--high] == bits)
             return high;
         ++low;
     }
@@ -24,21 +27,28 @@ std::size_t findFromEnds(const std::vector<LuObserver>& list, LuObserver observe
 
 LuObserverList::~LuObserverList() {
     if (isMany())
-        delete &getMany();
+        ::operator delete(getMany());
+}
+
+LuObserverList::Many* LuObserverList::makeMany(std::uint32_t capacity) {
+    void* memory = ::operator new(sizeof(Many) + capacity * sizeof(std::uintptr_t));
+    return new (memory) Many{0, capacity};
 }
 
 int LuObserverList::getLength() const {
     if (isMany())
-        return static_cast<int>(getMany().size());
+        return static_cast<int>(getMany()->length);
     return m_bits == 0 ? 0 : 1;
 }
 
 LuObserver LuObserverList::operator[](int index) const {
-    return isMany() ? getMany()[static_cast<std::size_t>(index)] : LuObserver(m_bits);
+    return LuObserver(isMany() ? getMany()->entries()[index] : m_bits);
 }
 
 bool LuObserverList::contains(LuObserver observer) const {
-    return isMany() ? findFromEnds(getMany(), observer) != NOT_FOUND : m_bits == observer.m_bits;
+    if (!isMany())
+        return m_bits == observer.m_bits;
+    return findFromEnds(getMany()->entries(), getMany()->length, observer.m_bits) != NOT_FOUND;
 }
 
 void LuObserverList::add(LuObserver observer) {
@@ -47,11 +57,19 @@ void LuObserverList::add(LuObserver observer) {
         return;
     }
     if (!isMany()) {
-        auto* many = new Many{LuObserver(m_bits), observer};
-        m_bits = reinterpret_cast<std::uintptr_t>(many) | MANY;
-        return;
+        Many* const many = makeMany(FIRST_CAPACITY);
+        many->entries()[many->length++] = m_bits;
+        setMany(many);
+    } else if (getMany()->length == getMany()->capacity) {
+        Many* const before = getMany();
+        Many* const many = makeMany(before->capacity * 2);
+        std::copy_n(before->entries(), before->length, many->entries());
+        many->length = before->length;
+        ::operator delete(before);
+        setMany(many);
     }
-    getMany().push_back(observer);
+    Many* const many = getMany();
+    many->entries()[many->length++] = observer.m_bits;
 }
 
 void LuObserverList::remove(LuObserver observer) {
@@ -60,19 +78,17 @@ void LuObserverList::remove(LuObserver observer) {
             m_bits = 0;
         return;
     }
-    Many& many = getMany();
-    const std::size_t index = findFromEnds(many, observer);
+    Many* const many = getMany();
+    std::uintptr_t* const entries = many->entries();
+    const std::uint32_t index = findFromEnds(entries, many->length, observer.m_bits);
     if (index == NOT_FOUND)
         return;
-    if (many.size() <= ORDERED_LENGTH) {
-        many.erase(many.begin() + static_cast<std::ptrdiff_t>(index));
-    } else {
-        many[index] = many.back();
-        many.pop_back();
-    }
-    if (many.size() == 1) {
-        const std::uintptr_t last = many.front().m_bits;
-        delete &many;
-        m_bits = last;
+    if (many->length <= ORDERED_LENGTH)
+        std::copy(entries + index + 1, entries + many->length, entries + index);
+    else
+        entries[index] = entries[many->length - 1];
+    if (--many->length == 1) {
+        m_bits = entries[0];
+        ::operator delete(many);
     }
 }

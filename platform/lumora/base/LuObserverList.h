@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -58,13 +60,17 @@ public:
     template <class Function>
     void forEach(Function function) const {
         const int length = getLength();
+        if (length == 0)
+            return;
         if (length == 1) {
             function((*this)[0]);
-        } else if (length > 1) {
-            for (const LuObserver observer : Many(getMany())) {
-                if (contains(observer))
-                    function(observer);
-            }
+        } else if (length <= FEW) {
+            std::array<std::uintptr_t, FEW> copy;
+            std::copy_n(getMany()->entries(), length, copy.begin());
+            callEach(copy.data(), length, function);
+        } else {
+            const std::vector<std::uintptr_t> copy(getMany()->entries(), getMany()->entries() + length);
+            callEach(copy.data(), length, function);
         }
     }
 
@@ -73,11 +79,27 @@ public:
     void remove(LuObserver observer);
 
 private:
-    using Many = std::vector<LuObserver>;
+    /// Two and more observers, in one block of memory: their bits follow the header.
+    struct Many {
+        std::uint32_t length;
+        std::uint32_t capacity;
+        std::uintptr_t* entries() { return reinterpret_cast<std::uintptr_t*>(this + 1); }
+    };
     static constexpr std::uintptr_t MANY = 3;
+    static constexpr int FEW = 8;
 
     bool isMany() const { return (m_bits & MANY) == MANY; }
-    Many& getMany() const { return *reinterpret_cast<Many*>(m_bits & ~MANY); }
+    Many* getMany() const { return reinterpret_cast<Many*>(m_bits & ~MANY); }
+    void setMany(Many* many) { m_bits = reinterpret_cast<std::uintptr_t>(many) | MANY; }
+    static Many* makeMany(std::uint32_t capacity);
+
+    template <class Function>
+    void callEach(const std::uintptr_t* bits, int length, Function& function) const {
+        for (int i = 0; i < length; ++i) {
+            if (contains(LuObserver(bits[i])))
+                function(LuObserver(bits[i]));
+        }
+    }
 
     std::uintptr_t m_bits = 0;
 };

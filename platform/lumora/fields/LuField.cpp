@@ -42,6 +42,8 @@ bool LuField::connectFrom(LuField* master) {
     getMasters()[this] = master;
     m_isConnected = true;
     master->addObserver(LuObserver(this));
+    if (m_holdsNodes)
+        LuBase::addListener();
     copyFrom(*master);
     return true;
 }
@@ -51,6 +53,8 @@ void LuField::disconnect() {
         return;
     const auto found = getMasters().find(this);
     found->second->removeObserver(LuObserver(this));
+    if (m_holdsNodes)
+        LuBase::removeListener();
     getMasters().erase(found);
     m_isConnected = false;
 }

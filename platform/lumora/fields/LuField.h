@@ -70,8 +70,11 @@ public:
     /// An object that this field holds has changed.
     void notifyFromBelow(LuNotification& notification);
 
+    /// True for a field whose value is nodes: it changes, too, with what lies below them.
+    bool holdsNodes() const { return m_holdsNodes; }
+
 protected:
-    LuField() = default;
+    explicit LuField(bool holdsNodes = false) : m_holdsNodes(holdsNodes) {}
 
     /// To be called after each change of the value.
     void valueChanged(bool clearDefault = true) {
@@ -92,4 +95,5 @@ private:
     bool m_isConnected : 1 = false;
     bool m_isIgnored : 1 = false;
     bool m_isPassingOn : 1 = false;
+    const bool m_holdsNodes : 1;
 };

@@ -170,7 +170,7 @@ private:
 /// field.
 class LuSFNode : public LuField {
 public:
-    LuSFNode() = default;
+    LuSFNode() : LuField(true) {}
     ~LuSFNode() override;
 
     LuNode* getValue() const { return m_node; }

@@ -64,17 +64,17 @@ bool LuBaseKit::setPart(LvName part, LuNode* node) {
 }
 
 LuChildList* LuBaseKit::getParentList(int part) {
-    const int parent = getNodekitCatalog()->getPartNumber(getNodekitCatalog()->getPart(part).parent);
+    const int parent = getNodekitCatalog()->getPart(part).parentNumber;
     return parent == LuNodekitCatalog::THIS_PART ? &m_children : makePart(parent)->getChildren();
 }
 
 int LuBaseKit::getInsertIndex(int part, const LuChildList& siblings) const {
     const LuNodekitCatalog& catalog = *getNodekitCatalog();
-    int sibling = catalog.getPartNumber(catalog.getPart(part).rightSibling);
+    int sibling = catalog.getPart(part).rightSiblingNumber;
     while (sibling > LuNodekitCatalog::THIS_PART) {
         if (const LuNode* node = getPartField(sibling)->getValue())
             return siblings.find(node);
-        sibling = catalog.getPartNumber(catalog.getPart(sibling).rightSibling);
+        sibling = catalog.getPart(sibling).rightSiblingNumber;
     }
     return siblings.getLength();
 }

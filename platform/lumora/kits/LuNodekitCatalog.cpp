@@ -1,18 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "platform/lumora/kits/LuNodekitCatalog.h"
 
+#include <algorithm>
+
 LuNodekitCatalog::LuNodekitCatalog(LuType kitType) {
     LuNodekitPart kit;
     kit.name = "this";
     kit.type = kitType;
     kit.defaultType = kitType;
     kit.nullByDefault = false;
-    m_parts.push_back(kit);
+    append(kit);
+}
+
+void LuNodekitCatalog::append(const LuNodekitPart& part) {
+    m_parts.push_back(part);
+    m_names.push_back(part.name);
 }
 
 LuNodekitCatalog* LuNodekitCatalog::clone(LuType kitType) const {
     auto* copy = new LuNodekitCatalog(kitType);
-    copy->m_parts.insert(copy->m_parts.end(), m_parts.begin() + 1, m_parts.end());
+    for (std::size_t i = 1; i < m_parts.size(); ++i)
+        copy->append(m_parts[i]);
     copy->m_hasDefaultParts = m_hasDefaultParts;
     return copy;
 }
@@ -22,15 +30,15 @@ bool LuNodekitCatalog::addEntry(const LuNodekitPart& part) {
     const bool hasSibling = part.rightSibling.isEmpty() || getPartNumber(part.rightSibling) >= 0;
     if (!isUsable || !hasSibling || getPartNumber(part.name) >= 0 || getPartNumber(part.parent) < 0)
         return false;
-    m_parts.push_back(part);
+    LuNodekitPart numbered = part;
+    numbered.parentNumber = getPartNumber(part.parent);
+    numbered.rightSiblingNumber = getPartNumber(part.rightSibling);
+    append(numbered);
     m_hasDefaultParts |= !part.nullByDefault;
     return true;
 }
 
 int LuNodekitCatalog::getPartNumber(LvName name) const {
-    for (int i = 0; i < getNumEntries(); ++i) {
-        if (getName(i) == name)
-            return i;
-    }
-    return -1;
+    const auto found = std::find(m_names.begin(), m_names.end(), name);
+    return found == m_names.end() ? -1 : static_cast<int>(found - m_names.begin());
 }

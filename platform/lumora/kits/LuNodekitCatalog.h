@@ -19,6 +19,10 @@ struct LuNodekitPart {
     LuType listItemType;
     bool isPublic = false;
     std::ptrdiff_t fieldOffset = 0; ///< Of the part's LuSFNode field within the kit.
+
+    /// The numbers of `parent` and, or -1, of `rightSibling`; the catalogue fills them in.
+    int parentNumber = 0;
+    int rightSiblingNumber = -1;
 };
 
 /// The table of the parts of a class of kits. Entry 0 is the kit itself, named "this". It is made once for
@@ -47,6 +51,9 @@ public:
     bool hasDefaultParts() const { return m_hasDefaultParts; }
 
 private:
+    void append(const LuNodekitPart& part);
+
     std::vector<LuNodekitPart> m_parts;
+    std::vector<LvName> m_names; ///< Of the parts: searched often, and packed closely for that.
     bool m_hasDefaultParts = false;
 };

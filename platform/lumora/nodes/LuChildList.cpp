@@ -7,6 +7,13 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+/// Most nodes with children have a few.
+constexpr std::size_t USUAL_LENGTH = 4;
+
+} // namespace
+
 LuChildList::~LuChildList() {
     for (LuNode* child : m_children) {
         child->removeObserver(LuObserver(static_cast<LuBase*>(m_owner)));
@@ -32,6 +39,8 @@ void LuChildList::insert(LuNode* child, int index) {
     if (!child)
         return;
     connect(child);
+    if (m_children.empty())
+        m_children.reserve(USUAL_LENGTH);
     m_children.insert(m_children.begin() + std::clamp(index, 0, getLength()), child);
     m_owner->startNotify();
 }

@@ -84,13 +84,19 @@ void LuDataSensor::forgetTrigger() {
 void LuFieldSensor::attach(LuField* field) {
     detach();
     m_field = field;
-    if (field)
-        field->addObserver(LuObserver(static_cast<LuSensor*>(this)));
+    if (!field)
+        return;
+    field->addObserver(LuObserver(static_cast<LuSensor*>(this)));
+    if (field->holdsNodes())
+        LuBase::addListener();
 }
 
 void LuFieldSensor::detach() {
-    if (m_field)
+    if (m_field) {
         m_field->removeObserver(LuObserver(static_cast<LuSensor*>(this)));
+        if (m_field->holdsNodes())
+            LuBase::removeListener();
+    }
     m_field = nullptr;
     forgetTrigger();
 }
@@ -98,13 +104,17 @@ void LuFieldSensor::detach() {
 void LuNodeSensor::attach(LuBase* node) {
     detach();
     m_node = node;
-    if (node)
-        node->addObserver(LuObserver(static_cast<LuSensor*>(this)));
+    if (!node)
+        return;
+    node->addObserver(LuObserver(static_cast<LuSensor*>(this)));
+    LuBase::addListener();
 }
 
 void LuNodeSensor::detach() {
-    if (m_node)
+    if (m_node) {
         m_node->removeObserver(LuObserver(static_cast<LuSensor*>(this)));
+        LuBase::removeListener();
+    }
     m_node = nullptr;
     forgetTrigger();
 }
