@@ -16,10 +16,10 @@ void writeField(const LuSizeField& entry, int value) {
         return;
     }
     if (entry.sensor)
-        entry.sensor->detach();
+        entry.sensor->setPaused(true);
     entry.field.setValue(value);
     if (entry.sensor)
-        entry.sensor->attach(&entry.field);
+        entry.sensor->setPaused(false);
 }
 
 void markIf(const LuSizeField& entry, bool isOpen) {

@@ -23,6 +23,20 @@ protected:
             << "#Lumora V2.0 ascii\nDEF DialogTextProperties Group { Font { size " << fontSize << " } }\n";
         return folder.generic_string();
     }
+    static std::filesystem::path getSkinFolder(const char* skin) {
+        return std::filesystem::path("data/Panelix/skins") / skin;
+    }
+
+    /// What a skin file gives a name to, in the order in which it does.
+    static std::vector<std::string> getDefinedNames(const std::filesystem::path& file) {
+        std::vector<std::string> names;
+        std::ifstream in(file);
+        for (std::string word; in >> word;) {
+            if (word == "DEF" && in >> word)
+                names.push_back(word);
+        }
+        return names;
+    }
     static float getFontSize() {
         auto* group = static_cast<LuGroup*>(LuNode::getByName("DialogTextProperties"));
         for (int i = 0; group && i < group->getNumChildren(); ++i) {
@@ -123,17 +137,28 @@ TEST_F(SkinTest, ReadingASkinFileKeepsTheSearchPath) {
     LuInput::clearDirectories();
 }
 
-TEST_F(SkinTest, EveryDefaultSkinFileIsRead) {
-    int numFiles = 0;
-    for (const auto& file : std::filesystem::directory_iterator("data/Panelix/skins/default")) {
-        LuInput input;
-        ASSERT_TRUE(input.openFile(file.path().generic_string())) << file.path();
-        LuNode* const root = LuDB::readAll(&input);
-        ASSERT_NE(root, nullptr) << file.path();
-        const Held<LuNode> held(root);
-        ++numFiles;
+TEST_F(SkinTest, EverySkinFileIsRead) {
+    for (const char* skin : {"default", "slate"}) {
+        int numFiles = 0;
+        for (const auto& file : std::filesystem::directory_iterator(getSkinFolder(skin))) {
+            LuInput input;
+            ASSERT_TRUE(input.openFile(file.path().generic_string())) << file.path();
+            LuNode* const root = LuDB::readAll(&input);
+            ASSERT_NE(root, nullptr) << file.path();
+            const Held<LuNode> held(root);
+            ++numFiles;
+        }
+        EXPECT_EQ(numFiles, 18) << skin;
     }
-    EXPECT_EQ(numFiles, 18);
+}
+
+TEST_F(SkinTest, EverySkinDefinesTheNamesOfTheDefault) {
+    for (const auto& file : std::filesystem::directory_iterator(getSkinFolder("default"))) {
+        const std::string name = file.path().filename().string();
+        const auto names = getDefinedNames(file.path());
+        ASSERT_FALSE(names.empty()) << name;
+        EXPECT_EQ(getDefinedNames(getSkinFolder("slate") / name), names) << name;
+    }
 }
 
 } // namespace

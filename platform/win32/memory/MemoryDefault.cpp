@@ -37,26 +37,11 @@ LRESULT handleCreation(LuMemoryWindow& window, LPARAM lParam) {
     return TRUE;
 }
 
-} // namespace
-
-LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
-    LuMemoryWindow* window = findMemoryWindow(handle);
-    if (!window)
-        return 0;
-    if (isTextMessage(message & ~wideTextFlag))
-        return handleText(*window, message, wParam, lParam);
+LRESULT handleRareMessage(LuMemoryWindow* window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND handle = getHandle(window);
     switch (message) {
     case WM_NCCREATE:
         return handleCreation(*window, lParam);
-    case WM_NCCALCSIZE:
-        subtractFrame(*window, *reinterpret_cast<RECT*>(lParam));
-        return 0;
-    case WM_WINDOWPOSCHANGING:
-        limitToTrackSize(*window, *reinterpret_cast<WINDOWPOS*>(lParam));
-        return 0;
-    case WM_WINDOWPOSCHANGED:
-        announceChange(*window, *reinterpret_cast<const WINDOWPOS*>(lParam));
-        return 0;
     case WM_ACTIVATE:
         if (LOWORD(wParam) != WA_INACTIVE)
             SetFocus(handle);
@@ -93,6 +78,32 @@ LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) 
     case WM_CTLCOLORLISTBOX:
         return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
     default:
+        return isTextMessage(message & ~wideTextFlag) ? handleText(*window, message, wParam, lParam) : 0;
+    }
+}
+
+} // namespace
+
+LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+    LuMemoryWindow* window = findMemoryWindow(handle);
+    if (!window)
         return 0;
+    // A layout sends these by the thousand, so they come first.
+    switch (message) {
+    case WM_MOVE:
+    case WM_SIZE:
+    case WM_CHILDACTIVATE:
+        return 0;
+    case WM_NCCALCSIZE:
+        subtractFrame(*window, *reinterpret_cast<RECT*>(lParam));
+        return 0;
+    case WM_WINDOWPOSCHANGING:
+        limitToTrackSize(*window, *reinterpret_cast<WINDOWPOS*>(lParam));
+        return 0;
+    case WM_WINDOWPOSCHANGED:
+        announceChange(*window, *reinterpret_cast<const WINDOWPOS*>(lParam));
+        return 0;
+    default:
+        return handleRareMessage(window, message, wParam, lParam);
     }
 }

@@ -79,6 +79,18 @@ void applyOrder(LuMemoryWindow& window, WINDOWPOS& position) {
     }
 }
 
+/// True for a window with a procedure of ours, not subclassed, which does nothing of its own with the
+/// messages of a placement. Nobody could see them, and a layout would send thousands.
+bool isPlacedSilently(const LuMemoryWindow& window) {
+    return window.windowClass->isBuiltIn && window.procedure == window.windowClass->description.lpfnWndProc &&
+           isChildStyle(window.style);
+}
+
+RECT getClientFor(const LuMemoryWindow& window, RECT rect) {
+    subtractFrame(window, rect);
+    return rect;
+}
+
 } // namespace
 
 bool calculateClient(LuMemoryWindow& window, const RECT& rect, WINDOWPOS* position, RECT& client) {
@@ -104,6 +116,26 @@ bool calculateClient(LuMemoryWindow& window, const RECT& rect, WINDOWPOS* positi
     return true;
 }
 
+namespace {
+
+/// The messages after a placement. False when the window has ended meanwhile.
+bool tellPlaced(LuMemoryWindow& window, WINDOWPOS& position) {
+    const HWND handle = getHandle(&window);
+    if (!(position.flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW))) {
+        if (isChildStyle(window.style))
+            sendMessage(window, WM_CHILDACTIVATE, 0, 0);
+        else
+            activateWindow(&window);
+        if (!findMemoryWindow(handle))
+            return false;
+    }
+    if ((position.flags & changeMask) == noChange)
+        return true;
+    return sendAndCheck(window, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&position));
+}
+
+} // namespace
+
 void sendSize(LuMemoryWindow& window) {
     sendMessage(
         window, WM_SIZE, SIZE_RESTORED,
@@ -116,13 +148,17 @@ void sendMove(LuMemoryWindow& window) {
 
 bool placeWindow(LuMemoryWindow& window, WINDOWPOS position) {
     const auto lParam = reinterpret_cast<LPARAM>(&position);
-    if (!(position.flags & SWP_NOSENDCHANGING) && !sendAndCheck(window, WM_WINDOWPOSCHANGING, 0, lParam))
+    const bool isSilent = isPlacedSilently(window);
+    if (!isSilent && !(position.flags & SWP_NOSENDCHANGING) &&
+        !sendAndCheck(window, WM_WINDOWPOSCHANGING, 0, lParam))
         return false;
     reduce(window, position);
     const RECT rect{position.x, position.y, position.x + position.cx, position.y + position.cy};
     RECT client = window.client;
     if ((position.flags & (SWP_NOSIZE | SWP_FRAMECHANGED)) != SWP_NOSIZE) {
-        if (!calculateClient(window, rect, &position, client))
+        if (isSilent)
+            client = getClientFor(window, rect);
+        else if (!calculateClient(window, rect, &position, client))
             return false;
     } else {
         const LONG dx = rect.left - window.rect.left, dy = rect.top - window.rect.top;
@@ -140,19 +176,7 @@ bool placeWindow(LuMemoryWindow& window, WINDOWPOS position) {
         window.style |= WS_VISIBLE;
     else if (position.flags & SWP_HIDEWINDOW)
         window.style &= ~WS_VISIBLE;
-
-    const HWND handle = getHandle(&window);
-    if (!(position.flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW))) {
-        if (isChildStyle(window.style))
-            sendMessage(window, WM_CHILDACTIVATE, 0, 0);
-        else
-            activateWindow(&window);
-        if (!findMemoryWindow(handle))
-            return false;
-    }
-    if ((position.flags & changeMask) == noChange)
-        return true;
-    return sendAndCheck(window, WM_WINDOWPOSCHANGED, 0, lParam);
+    return isSilent || tellPlaced(window, position);
 }
 
 BOOL SetWindowPos(HWND handle, HWND insertAfter, int x, int y, int width, int height, UINT flags) {
