@@ -70,12 +70,23 @@ std::int64_t LuChildSizes::getCapacity(int index, int axis, int step) const {
 /// last round is left to the caller, since it may end at any child. `failures` becomes the number of children
 /// that refused since the last that took a pixel.
 std::int64_t LuChildSizes::takeWholeRounds(int axis, std::int64_t pixels, int step, int& failures) {
-    std::vector<std::int64_t> capacities;
+    // Mostly there is room for all: then each takes the same.
+    const std::int64_t equalRounds = (pixels - 1) / getCount();
     std::int64_t largest = 0;
+    std::int64_t smallest = LuSizes::UNLIMITED;
     for (int i = 0; i < getCount(); ++i) {
-        capacities.push_back(getCapacity(i, axis, step));
-        largest = std::max(largest, capacities.back());
+        const std::int64_t capacity = getCapacity(i, axis, step);
+        largest = std::max(largest, capacity);
+        smallest = std::min(smallest, capacity);
     }
+    if (smallest > equalRounds) {
+        for (LuSizes& child : m_sizes)
+            child.size[axis] = static_cast<int>(child.size[axis] + step * equalRounds);
+        return pixels - equalRounds * getCount();
+    }
+    std::vector<std::int64_t> capacities;
+    for (int i = 0; i < getCount(); ++i)
+        capacities.push_back(getCapacity(i, axis, step));
     const auto getTaken = [&capacities](std::int64_t rounds) {
         std::int64_t taken = 0;
         for (const std::int64_t capacity : capacities)

@@ -105,7 +105,14 @@ LONG_PTR writeLong(HWND handle, int index, LONG_PTR value, std::size_t size) {
 
 } // namespace
 
-LONG_PTR GetWindowLongPtrA(HWND window, int index) { return readLong(window, index, sizeof(LONG_PTR)); }
+LONG_PTR GetWindowLongPtrA(HWND handle, int index) {
+    // Every procedure begins by asking for these.
+    if (index == GWLP_USERDATA) {
+        const LuMemoryWindow* window = findMemoryWindowOrFail(handle);
+        return window ? window->userData : 0;
+    }
+    return readLong(handle, index, sizeof(LONG_PTR));
+}
 
 LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value) {
     return writeLong(window, index, value, sizeof(LONG_PTR));

@@ -37,7 +37,9 @@ LRESULT handleCreation(LuMemoryWindow& window, LPARAM lParam) {
     return TRUE;
 }
 
-LRESULT handleRareMessage(LuMemoryWindow* window, UINT message, WPARAM wParam, LPARAM lParam) {
+/// Apart from the frequent ones, which then need no room on the stack.
+[[gnu::noinline]] LRESULT handleRareMessage(LuMemoryWindow* window, UINT message, WPARAM wParam,
+                                            LPARAM lParam) {
     const HWND handle = getHandle(window);
     switch (message) {
     case WM_NCCREATE:
