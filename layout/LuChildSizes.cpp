@@ -120,7 +120,7 @@ void LuChildSizes::distribute(int axis, std::int64_t difference) {
     const int step = difference > 0 ? 1 : -1;
     std::int64_t pixels = difference > 0 ? difference : -difference;
     int failures = 0;
-    if (pixels > count)
+    if (count > 0 && pixels > count)
         pixels = takeWholeRounds(axis, pixels, step, failures);
     while (pixels > 0 && failures < count) {
         const int index = m_next;

@@ -140,6 +140,48 @@ TEST_F(BoundingBoxTest, CachedBoxFollowsChangesMadeWithNotificationOff) {
     expectBox(measure(root.get()), {-3, -1, -1}, {3, 1, 1});
 }
 
+/// A shape that widens another one when its box is asked for, as a component does that builds itself then.
+class WideningCube : public LuCube {
+public:
+    explicit WideningCube(LuCube* other) : m_other(other) {}
+    void getBoundingBox(LuGetBoundingBoxAction* action) override {
+        m_other->width.setValue(m_other->width.getValue() + 2);
+        LuCube::getBoundingBox(action);
+    }
+
+private:
+    LuCube* m_other;
+};
+
+TEST_F(BoundingBoxTest, ChangeDuringATraversalIsSeenByTheNext) {
+    const Held<LuSeparator> root;
+    auto* inner = new LuSeparator;
+    auto* cube = new LuCube;
+    inner->addChild(cube);
+    root->addChild(inner);
+    root->addChild(new WideningCube(cube));
+    expectBox(measure(root.get()), {-1, -1, -1}, {1, 1, 1});
+    expectBox(measure(root.get()), {-2, -1, -1}, {2, 1, 1});
+    cube->height.setValue(8);
+    expectBox(measure(root.get()), {-3, -4, -1}, {3, 4, 1});
+}
+
+TEST_F(BoundingBoxTest, ChangeThatNobodyCameByForIsNotLost) {
+    const Held<LuSeparator> root;
+    auto* hidden = new LuSwitch;
+    auto* cube = new LuCube;
+    hidden->addChild(cube);
+    root->addChild(hidden);
+    hidden->whichChild.setValue(-1);
+    EXPECT_TRUE(measure(root.get()).isEmpty());
+    cube->width.setValue(4);
+    cube->width.setValue(6);
+    hidden->whichChild.setValue(0);
+    expectBox(measure(root.get()), {-3, -1, -1}, {3, 1, 1});
+    cube->width.setValue(8);
+    expectBox(measure(root.get()), {-4, -1, -1}, {4, 1, 1});
+}
+
 TEST_F(BoundingBoxTest, SharedSeparatorHasItsBoxInEachPlace) {
     const Held<LuSeparator> root;
     auto* shared = new LuSeparator;

@@ -95,6 +95,37 @@ TEST_F(SensorTest, NotificationOffKeepsSensorsSilent) {
     EXPECT_EQ(calls, 1);
 }
 
+TEST_F(SensorTest, SensorFarAboveHearsEveryChangeWithoutATraversalBetween) {
+    const Held<LuSeparator> root;
+    auto* inner = new LuSeparator;
+    auto* node = new LuTranslation;
+    inner->addChild(node);
+    root->addChild(inner);
+    node->translation.setValue({1, 0, 0});
+    int calls = 0;
+    LuNodeSensor sensor(&countCall, &calls);
+    sensor.setPriority(0);
+    sensor.attach(root.get());
+    node->translation.setValue({2, 0, 0});
+    node->translation.setValue({3, 0, 0});
+    EXPECT_EQ(calls, 2);
+}
+
+TEST_F(SensorTest, SensorOnAFieldOfNodesHearsEveryChangeBelow) {
+    const Held<LuSeparator> node;
+    LuSFNode field;
+    field.setValue(node.get());
+    auto* translation = new LuTranslation;
+    node->addChild(translation);
+    int calls = 0;
+    LuFieldSensor sensor(&countCall, &calls);
+    sensor.setPriority(0);
+    sensor.attach(&field);
+    translation->translation.setValue({2, 0, 0});
+    translation->translation.setValue({3, 0, 0});
+    EXPECT_EQ(calls, 2);
+}
+
 TEST_F(SensorTest, SensorMayDetachItselfAndAnother) {
     const Held<LuTranslation> node;
     int calls = 0;
