@@ -16,6 +16,8 @@ else()
     file(GLOB native CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/native/*.cpp)
     list(APPEND host ${native})
 endif()
+# What programs say and print, without their main.
+list(APPEND sources ${CMAKE_SOURCE_DIR}/apps/view/SkinChoice.cpp ${CMAKE_SOURCE_DIR}/apps/view/TreePrinter.cpp)
 list(APPEND sources ${host})
 list(REMOVE_DUPLICATES sources)
 

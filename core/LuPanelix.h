@@ -70,6 +70,9 @@ class LuPanelix : public LuDragger {
     /// directories. Live components change at once. A name that leads nowhere changes nothing.
     static void setSkin(LvString name);
 
+    /// The directory that setSkin takes for a name; empty when the name leads nowhere.
+    static LvString findSkin(const LvString& name);
+
     /// The steps of a change of skin, for one group by its DEF name: the old group loses its children; the
     /// group read since then gives it its own.
     static void free3DSkin(LvString part);

@@ -8,6 +8,7 @@
 #include "platform/lumora/io/LuDB.h"
 #include "platform/lumora/io/LuInput.h"
 
+#include <algorithm>
 #include <cstring>
 
 const char* LuPanelix::TextProperties = LuEmbeddedSkin_TextProperties;
@@ -84,7 +85,7 @@ int LuPanelix::setSkinsDirectory(LvString directory) {
     return 1;
 }
 
-void LuPanelix::setSkin(LvString name) {
+LvString LuPanelix::findSkin(const LvString& name) {
     std::vector<LvString> candidates{name, "./" + name};
     const LvString directories = LvFileHelper::toUnixPath(getSkinsDirectories());
     for (int start = 0; start < directories.getLength();) {
@@ -92,13 +93,16 @@ void LuPanelix::setSkin(LvString name) {
         candidates.push_back(directories.getSubString(start, end == LvString::npos ? -1 : end) + "/" + name);
         start = end == LvString::npos ? directories.getLength() : end + 1;
     }
-    for (const LvString& candidate : candidates) {
-        if (isUsable(candidate)) {
-            s_skinsPath = candidate;
-            change3DSkin();
-            return;
-        }
-    }
+    const auto place = std::find_if(candidates.begin(), candidates.end(), isUsable);
+    return place == candidates.end() ? LvString() : *place;
+}
+
+void LuPanelix::setSkin(LvString name) {
+    const LvString path = findSkin(name);
+    if (path.isEmpty())
+        return;
+    s_skinsPath = path;
+    change3DSkin();
 }
 
 void LuPanelix::free3DSkin(LvString part) {

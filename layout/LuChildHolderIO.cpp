@@ -16,8 +16,7 @@ constexpr std::int32_t END_OF_LIST = -1;
 template <class Base, class Child>
 bool LuChildHolder<Base, Child>::readInstance(LuInput* in, unsigned short flags) {
     const bool wasNotifying = this->enableNotify(false);
-    bool isBuiltIn = true;
-    if (!this->getFieldData()->read(in, this, false, isBuiltIn))
+    if (!this->getFieldData()->read(in, this, false))
         return false;
     const bool hasChildren = !in->isBinary() || (flags & HAS_CHILDREN);
     const bool isRead = !hasChildren || this->readChildren(in);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "apps/view/EventPrinter.h"
+#include "apps/view/SkinChoice.h"
 #include "apps/view/Snapshot.h"
 #include "apps/view/TreePrinter.h"
 #include "layout/LuTopLevelDialog.h"
@@ -38,7 +39,10 @@ void addOptions(CLI::App& app, Options& options) {
         ->type_name("[json]");
     app.add_option("--snapshot", options.snapshot, "Write a picture of what shows and end")
         ->type_name("FILE.png");
-    app.add_option("--skin", options.skin, "The skin of the 3D rendition: a name, or a directory")
+    app.add_option(
+           "--skin", options.skin,
+           "The skin of the 3D rendition: a directory, or the name of one in the skins folders that the "
+           "environment's PANELIX_SKINS_DIR and LUMORAHOME tell. The skin named default is there always")
         ->type_name("NAME");
 }
 
@@ -143,8 +147,10 @@ void runDialogs(Dialogs& dialogs) {
 int run(const Options& options) {
     EventPrinter printer;
     Dialogs dialogs;
-    if (!options.skin.empty())
-        LuPanelix::setSkin(options.skin);
+    if (const std::string complaint = takeSkin(options.skin); !complaint.empty()) {
+        std::fprintf(stderr, "panelix-view: %s\n", complaint.c_str());
+        return FAULTY;
+    }
     if (!loadDialogs(options, options.areEventsPrinted ? &printer : nullptr, dialogs))
         return FAULTY;
     if (!options.tree.empty())
@@ -160,7 +166,7 @@ int run(const Options& options) {
 
 int main(int argumentCount, char** arguments) {
     CLI::App app("Shows the dialogs of files as windows; ends when the last of them has been closed.\n"
-                 "Exit status: 0 all went well, 1 a file or the picture is at fault, 2 wrong use.");
+                 "Exit status: 0 all went well, 1 a file, the skin or the picture is at fault, 2 wrong use.");
     Options options;
     addOptions(app, options);
     // A path that begins with a slash is a file, not an option.

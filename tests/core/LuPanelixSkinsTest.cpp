@@ -97,6 +97,16 @@ TEST_F(SkinTest, SkinIsFoundInTheFurtherDirectories) {
     LuPanelix::setSkin("default");
 }
 
+TEST_F(SkinTest, FoundSkinIsTheFirstDirectoryOfItsName) {
+    const std::string folder = makeSkin("found", 11);
+    const std::string above = std::filesystem::path(folder).parent_path().generic_string();
+    EXPECT_EQ(LuPanelix::findSkin(folder), folder);
+    EXPECT_EQ(LuPanelix::findSkin("data"), "data");
+    LuPanelix::setSkinsDirectories("/nowhere;" + above + ";data/Panelix/skins");
+    EXPECT_EQ(LuPanelix::findSkin("found"), above + "/found");
+    EXPECT_EQ(LuPanelix::findSkin("no-such-skin"), "");
+}
+
 TEST_F(SkinTest, SkinWithoutAFileFallsBackOnTheStoredText) {
     const std::string folder = makeSkin("partial", 50);
     std::filesystem::remove(folder + "/TextProperties.lum");

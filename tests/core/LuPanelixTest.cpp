@@ -12,6 +12,11 @@ namespace {
 
 using PanelixTest = ComponentTest;
 
+TEST_F(PanelixTest, ClassesAreBuiltIn) {
+    EXPECT_TRUE(Held<LuPanelix>()->getIsBuiltIn());
+    EXPECT_TRUE(Held<OpenPanelix>()->getIsBuiltIn());
+}
+
 TEST(ModuleTest, TwoStartsAndOneEndLeaveTheClassesRegistered) {
     using Counts = std::array<int, 3>;
     const auto getCounts = [] {

@@ -62,6 +62,18 @@ test_view_treeAsJson_showsFieldsAndWindows() {
     expect_contains tree '"text": "Green"' "$output"
 }
 
+test_view_unknownSkin_isAFault() {
+    run_program panelix-view --skin nonsense --tree "$EXAMPLE"
+    expect_equal status 1 "$status"
+    expect_contains message 'panelix-view: there is no skin "nonsense"' "$output"
+}
+
+test_view_skinOfADirectory_isTaken() {
+    run_program panelix-view --skin data/Panelix/skins/default --tree "$EXAMPLE"
+    expect_equal status 0 "$status"
+    expect_contains tree '      DialogPushButton "red" at 0 0 size ' "$output"
+}
+
 test_view_snapshot_isAPictureAsLargeAsTheWindow() {
     run_program panelix-view --snapshot "$FOLDER/picture.png" "$EXAMPLE"
     expect_equal status 0 "$status"

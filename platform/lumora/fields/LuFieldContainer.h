@@ -51,8 +51,8 @@ public:
 
     /// Reads fields by name and value for as long as words of the file name fields of the class. A word that
     /// names none is left to the caller, who may find a child there; with `errorOnUnknownField` it is a
-    /// failure. `isBuiltIn` is untouched for classes the program knows, which are all.
-    bool read(LuInput* in, LuFieldContainer* container, bool errorOnUnknownField, bool& isBuiltIn) const;
+    /// failure.
+    bool read(LuInput* in, LuFieldContainer* container, bool errorOnUnknownField) const;
 
     /// Writes the fields whose default flag is clear.
     void write(LuOutput* out, const LuFieldContainer* container) const;

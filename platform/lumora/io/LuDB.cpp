@@ -9,9 +9,12 @@
 #include "platform/lumora/nodes/LuText3.h"
 #include "platform/lumora/nodes/LuTransforms.h"
 
-int LuDB::s_initCount = 0;
-int LuNodeKit::s_initCount = 0;
-int LuInteraction::s_initCount = 0;
+template <class Part>
+int LuStartCount<Part>::s_initCount = 0;
+template class LuStartCount<LuDB>;
+template class LuStartCount<LuNodeKit>;
+template class LuStartCount<LuInteraction>;
+
 bool LuDBImpl::s_isRunningCluster = false;
 bool LuDBImpl::s_isRunningART = false;
 
@@ -52,11 +55,10 @@ void registerClasses() {
 } // namespace
 
 void LuDB::init() {
-    if (s_initCount++ == 0)
+    if (getInitCount() == 0)
         registerClasses();
+    LuStartCount::init();
 }
-
-void LuDB::finish() { --s_initCount; }
 
 LuSeparator* LuDB::readAll(LuInput* in) {
     auto* const root = new LuSeparator;

@@ -22,7 +22,7 @@ bool reportUnknownField(LuInput* in, const LuFieldData& data, const LuFieldConta
 
 } // namespace
 
-bool LuFieldData::read(LuInput* in, LuFieldContainer* container, bool errorOnUnknownField, bool&) const {
+bool LuFieldData::read(LuInput* in, LuFieldContainer* container, bool errorOnUnknownField) const {
     return in->isBinary() ? readBinary(in, container) : readText(in, container, errorOnUnknownField);
 }
 
@@ -102,8 +102,7 @@ bool LuFieldContainer::readInstance(LuInput* in, unsigned short flags) {
     if (!data)
         return LuBase::readInstance(in, flags);
     const bool wasNotifying = enableNotify(false);
-    bool isBuiltIn = true;
-    if (!data->read(in, this, false, isBuiltIn))
+    if (!data->read(in, this, false))
         return false;
     if (flags != 0)
         return in->postError("found children, but a %s has none", getTypeId().getName().getString());
@@ -125,8 +124,7 @@ bool LuFieldContainer::set(const LvString& text) {
     const LuFieldData* data = getFieldData();
     LuInput in;
     in.setBuffer(text.getString(), static_cast<std::size_t>(text.getLength()));
-    bool isBuiltIn = true;
-    if (data && !data->read(&in, this, true, isBuiltIn))
+    if (data && !data->read(&in, this, true))
         return false;
     if (in.isAtEnd())
         return !in.hasFailed();

@@ -34,8 +34,7 @@ void LuNode::write(LuWriteAction* action) {
 
 bool LuGroup::readInstance(LuInput* in, unsigned short flags) {
     const bool wasNotifying = enableNotify(false);
-    bool isBuiltIn = true;
-    if (!getFieldData()->read(in, this, false, isBuiltIn))
+    if (!getFieldData()->read(in, this, false))
         return false;
     const bool hasChildren = !in->isBinary() || (flags & HAS_CHILDREN);
     if (hasChildren && !readChildren(in))

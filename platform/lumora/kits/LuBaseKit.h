@@ -22,6 +22,9 @@ public:
 
     virtual const LuNodekitCatalog* getNodekitCatalog() const = 0;
 
+    /// Whether the object's class is one of the program's own, which is true of all that there are.
+    virtual bool getIsBuiltIn() const = 0;
+
     /// The node in a part. With `makeIfNeeded` a part without one gets a node of its default type. Null for
     /// an unknown part.
     LuNode* getPart(LvName part, bool makeIfNeeded);
@@ -142,6 +145,7 @@ public:                                                                         
     static const LuNodekitCatalog* getClassNodekitCatalog() { return s_class.nodekitCatalog; }               \
     static LuNodekitCatalog** getClassNodekitCatalogPtr() { return &s_class.nodekitCatalog; }                \
     const LuNodekitCatalog* getNodekitCatalog() const override { return s_class.nodekitCatalog; }            \
+    bool getIsBuiltIn() const override { return s_class.isBuiltIn; }                                         \
                                                                                                              \
 private:                                                                                                     \
     static LuKitClass s_class;                                                                               \

@@ -14,9 +14,9 @@ LuNodeClass& prepareClass(LuKitClass& kitClass, void (*initClass)()) {
 
 LuKitConstructor::LuKitConstructor(LuKitClass& kitClass, LuBaseKit* kit, void (*initClass)())
     : m_class(kitClass), m_kit(kit), m_fields(prepareClass(kitClass, initClass), kit) {
+    m_class.isBuiltIn = true;
     if (!m_class.firstInstance)
         return;
-    m_class.isBuiltIn = true;
     if (m_class.nodekitCatalog)
         return;
     const LuNodekitCatalog* parent =
