@@ -52,6 +52,9 @@ as_root() {
     fi
 }
 
+# can_be_root: asks for the password where sudo wants one, before output goes to a file.
+can_be_root() { [ "$(id -u)" = 0 ] || { command -v sudo >/dev/null && sudo env true; }; }
+
 is_installed() {
     # The name may be a virtual one that another package provides.
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
@@ -65,6 +68,8 @@ install_packages() {
     done
     [ ${#missing[@]} -gt 0 ] || return 0
     say "Installing Debian packages, once, some minutes: ${missing[*]}"
+    can_be_root || fail "That takes root or a user who may use sudo. Somebody who is has to install them, then run this again:
+    apt-get install --no-install-recommends ${missing[*]}"
     for try in 1 2 3; do
         if as_root apt-get -q update >build/apt.log 2>&1 &&
             as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y --no-install-recommends install "${missing[@]}" \
