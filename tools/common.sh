@@ -63,7 +63,7 @@ is_installed() {
 # install_packages NAME...: those that are missing, and only those.
 install_packages() {
     local name missing=() try
-    for name in "$@"; do
+    for name in $(printf '%s\n' "$@" | sort -u); do
         is_installed "$name" || missing+=("$name")
     done
     [ ${#missing[@]} -gt 0 ] || return 0
