@@ -22,7 +22,8 @@ void LuDialogSeparator::updateFromSensor(LuSensor* sensor) { LuControl::updateFr
 void LuDialogSeparator::getDefaultSize(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize) {
     size = m_orientationHorz ? LvVec2i32(0, THICKNESS) : LvVec2i32(THICKNESS, 0);
     minSize = size;
-    maxSize = m_orientationHorz ? LvVec2i32(UNLIMITED, THICKNESS) : LvVec2i32(THICKNESS, UNLIMITED);
+    maxSize = m_orientationHorz ? LvVec2i32(LuSizes::UNLIMITED, THICKNESS)
+                                : LvVec2i32(THICKNESS, LuSizes::UNLIMITED);
 }
 
 void LuDialogSeparator::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& position, int is2D) {

@@ -53,7 +53,7 @@ LvVec2i32 LuDialogComponent::getLabelInitSize() {
 void LuDialogComponent::getDefaultSize(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize) {
     size.setValue(200, 28);
     minSize.setValue(25, 25);
-    maxSize.setValue(UNLIMITED, UNLIMITED);
+    maxSize.setValue(LuSizes::UNLIMITED, LuSizes::UNLIMITED);
 }
 
 void LuDialogComponent::getOuterDefaultSizes(LuSizes& sizes) {

@@ -27,9 +27,6 @@ class LuDialogComponent : public LuTopComponent {
 
     enum EdgeStyle { NONE = 0, SHADOW_IN = 1, SHADOW_OUT = 2 };
 
-    /// The largest size: no limit.
-    static constexpr int UNLIMITED = LuSizes::UNLIMITED;
-
     /// What width and height lose for the edge, whatever its style.
     static constexpr int EDGE_ROOM = 6;
 

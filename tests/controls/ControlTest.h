@@ -2,34 +2,25 @@
 #pragma once
 
 #include "layout/LuDialogComponent.h"
-#include "platform/lumora/actions/LuGetBoundingBoxAction.h"
-#include "platform/lumora/base/LuPreferences.h"
 #include "platform/lumora/nodes/LuGroup.h"
 #include "platform/lumora/nodes/LuText3.h"
 #include "platform/lumora/nodes/LuTransforms.h"
 #include "platform/lumora/win/LuWin.h"
+#include "tests/host/ComponentTest.h"
 #include "tests/host/TestHost.h"
-#include "tests/host/ToolkitTest.h"
 
-#include <gtest/gtest.h>
 #include <string>
 #include <tuple>
 #include <vector>
 
-/// A test with components: the library is started, the default skin is found, and a window is there to build
-/// windows in.
-class ControlTest : public testing::Test {
+/// A test of a control: a window is there to build its windows in.
+class ControlTest : public ComponentTest {
 protected:
     ControlTest() {
-        LuPreferences::setString("PANELIX_SKIN", "data/Panelix/skins/default");
-        LuPanelix::init();
         m_window = CreateWindowExA(0, "STATIC", "", WS_POPUP | WS_VISIBLE, 0, 0, 400, 300, nullptr, nullptr,
                                    LuWin::getInstance(), nullptr);
     }
-    ~ControlTest() override {
-        DestroyWindow(m_window);
-        LuPanelix::finish();
-    }
+    ~ControlTest() override { DestroyWindow(m_window); }
 
     /// Builds the windows of a component of a size; 0 asks for nothing.
     void buildWindows(LuDialogComponent& component, LvVec2i32 size = {0, 0}) const {
@@ -38,7 +29,7 @@ protected:
     }
 
     /// Builds in 3D as a viewer does.
-    static void build3D(LuDialogComponent& component) { LuGetBoundingBoxAction().apply(&component); }
+    static void build3D(LuDialogComponent& component) { traverse(&component); }
 
     /// Builds both renditions.
     void buildBoth(LuDialogComponent& component) const {

@@ -5,29 +5,20 @@
 #include "layout/LuRowDialog.h"
 #include "layout/LuTopLevelDialog.h"
 #include "platform/lumora/actions/LuWriteAction.h"
-#include "platform/lumora/base/LuPreferences.h"
 #include "platform/lumora/io/LuDB.h"
 #include "platform/lumora/io/LuInput.h"
 #include "platform/lumora/nodes/LuGroup.h"
+#include "tests/host/ComponentTest.h"
 #include "tests/host/TestHost.h"
-#include "tests/host/ToolkitTest.h"
 
 #include <cstring>
 #include <memory>
 
-/// A test that needs the components, in windows and in 3D.
-class DialogTest : public testing::Test {
+/// A test of a dialog, in windows and in 3D.
+class DialogTest : public ComponentTest {
 protected:
-    DialogTest() : m_wasHeadless(LuDBImpl::m_isHeadless) {
-        LuDBImpl::m_isHeadless = false;
-        LuPreferences::setString("PANELIX_SKINS_DIR", "data/Panelix/skins");
-        LuPanelix::init();
-    }
-    ~DialogTest() override {
-        m_file.reset();
-        LuPanelix::finish();
-        LuDBImpl::m_isHeadless = m_wasHeadless;
-    }
+    DialogTest() : m_wasHeadless(LuDBImpl::m_isHeadless) { LuDBImpl::m_isHeadless = false; }
+    ~DialogTest() override { LuDBImpl::m_isHeadless = m_wasHeadless; }
 
     /// Reads components from text and gives the first; the fixture holds them.
     template <class Component>
@@ -49,10 +40,7 @@ protected:
         return action.getOutput()->getBuffer();
     }
 
-    static void buildIn3D(LuNode* node) {
-        LuGetBoundingBoxAction action;
-        action.apply(node);
-    }
+    static void buildIn3D(LuNode* node) { traverse(node); }
 
     /// A window's place in its parent, or on the screen.
     static RECT getPlace(HWND window) {

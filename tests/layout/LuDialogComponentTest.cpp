@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int UNLIMITED = LuDialogComponent::UNLIMITED;
+constexpr int UNLIMITED = LuSizes::UNLIMITED;
 
 /// Opens what subclasses see.
 class Probe : public LuDialogComponent {
