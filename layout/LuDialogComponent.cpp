@@ -32,17 +32,6 @@ LuDialogComponent::~LuDialogComponent() {
         DestroyWindow(m_spareWidget);
     delete m_labelVisibilitySensor;
     delete m_edgeStyleSensor;
-    for (const LuSizeField& entry : getSizeFields())
-        delete entry.sensor;
-}
-
-LuSizeFields LuDialogComponent::getSizeFields() {
-    return {{{width, m_widthSensor},
-             {height, m_heightSensor},
-             {minWidth, m_minWidthSensor},
-             {minHeight, m_minHeightSensor},
-             {maxWidth, m_maxWidthSensor},
-             {maxHeight, m_maxHeightSensor}}};
 }
 
 LvVec2i32 LuDialogComponent::getLabelInitSize() {
@@ -61,7 +50,7 @@ void LuDialogComponent::getOuterDefaultSizes(LuSizes& sizes) {
 }
 
 void LuDialogComponent::getSize(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize) {
-    LuSizes sizes = luGetSizes(*this);
+    LuSizes sizes = m_sizes.getSizes();
     if (sizes.hasOpen()) {
         LuSizes defaults;
         getOuterDefaultSizes(defaults);
@@ -94,13 +83,9 @@ void LuDialogComponent::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& pos
         sizes.minSize.x = sizes.maxSize.x = sizes.size.x;
     if (fixedHeight.getValue())
         sizes.minSize.y = sizes.maxSize.y = sizes.size.y;
-    if (m_firstBuild) {
-        const LuSizes user = luGetSizes(*this);
-        m_defaultSize = user.size;
-        m_defaultMinSize = user.minSize;
-        m_defaultMaxSize = user.maxSize;
-    }
-    luWriteSizes(getSizeFields(), sizes);
+    if (m_firstBuild)
+        m_sizes.takeAll();
+    m_sizes.write(sizes);
     setDefaultState();
     m_position = position;
     if (is2D) {
@@ -122,40 +107,33 @@ void LuDialogComponent::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& pos
 
 void LuDialogComponent::attachSensors() {
     // All of them are made together.
-    if (m_maxHeightSensor)
+    if (m_edgeStyleSensor)
         return;
     attachSensor(m_labelVisibilitySensor, labelVisibility);
     attachSensor(m_edgeStyleSensor, edgeStyle);
-    attachSensor(m_widthSensor, width);
-    attachSensor(m_heightSensor, height);
-    attachSensor(m_minWidthSensor, minWidth);
-    attachSensor(m_minHeightSensor, minHeight);
-    attachSensor(m_maxWidthSensor, maxWidth);
-    attachSensor(m_maxHeightSensor, maxHeight);
+    for (int field = LuSizeFields::WIDTH; field <= LuSizeFields::MAX_HEIGHT; ++field)
+        attachSensor(m_sizes.getSensor(field), m_sizes.getField(field));
 }
 
 void LuDialogComponent::setSize(int newWidth, int newHeight, int newMinWidth, int newMinHeight,
                                 int newMaxWidth, int newMaxHeight) {
-    luWriteSizes(getSizeFields(),
-                 {{newWidth, newHeight}, {newMinWidth, newMinHeight}, {newMaxWidth, newMaxHeight}});
+    m_sizes.write({{newWidth, newHeight}, {newMinWidth, newMinHeight}, {newMaxWidth, newMaxHeight}});
 }
 
-void LuDialogComponent::setDefaultState() {
-    luMarkOpenSizes(getSizeFields(), {m_defaultSize, m_defaultMinSize, m_defaultMaxSize},
-                    fixedWidth.getValue(), fixedHeight.getValue());
-}
+void LuDialogComponent::setDefaultState() { m_sizes.markOpen(fixedWidth.getValue(), fixedHeight.getValue()); }
 
 void LuDialogComponent::getDefaultState(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize) const {
-    size = m_defaultSize;
-    minSize = m_defaultMinSize;
-    maxSize = m_defaultMaxSize;
+    const LuSizes& user = m_sizes.getUserSizes();
+    size = user.size;
+    minSize = user.minSize;
+    maxSize = user.maxSize;
 }
 
 void LuDialogComponent::resetSize() {
     m_componentInitSize = {-1, -1};
     m_componentSize = m_labelSize = m_labelInitSize = {0, 0};
-    setWithoutSensor(height, 0, m_heightSensor);
-    setWithoutSensor(width, 0, m_widthSensor);
+    m_sizes.write(LuSizeFields::HEIGHT, 0);
+    m_sizes.write(LuSizeFields::WIDTH, 0);
 }
 
 void LuDialogComponent::updateFromSensor(LuSensor* sensor) {
@@ -170,12 +148,11 @@ void LuDialogComponent::updateFromSensor(LuSensor* sensor) {
             changeEdgeStyle();
         if (shows3D)
             change3DEdgeStyle();
-    } else if (sensor == m_widthSensor) {
+    } else if (const int field = m_sizes.findField(sensor); field == LuSizeFields::WIDTH) {
         changeWidth();
-    } else if (sensor == m_heightSensor) {
+    } else if (field == LuSizeFields::HEIGHT) {
         changeHeight();
-    } else if (sensor == m_minWidthSensor || sensor == m_minHeightSensor || sensor == m_maxWidthSensor ||
-               sensor == m_maxHeightSensor) {
+    } else if (field >= 0) {
         changeMinMaxSize();
     } else {
         LuTopComponent::updateFromSensor(sensor);
@@ -192,14 +169,11 @@ void LuDialogComponent::changeWidgetEnable(int isEnabled) {
     EnableWindow(m_widget, isEnabled ? enable.getValue() : 0);
 }
 
-void LuDialogComponent::changeWidth() { m_defaultSize.x = width.getValue(); }
+void LuDialogComponent::changeWidth() { m_sizes.takeSize(0); }
 
-void LuDialogComponent::changeHeight() { m_defaultSize.y = height.getValue(); }
+void LuDialogComponent::changeHeight() { m_sizes.takeSize(1); }
 
-void LuDialogComponent::changeMinMaxSize() {
-    m_defaultMinSize.setValue(minWidth.getValue(), minHeight.getValue());
-    m_defaultMaxSize.setValue(maxWidth.getValue(), maxHeight.getValue());
-}
+void LuDialogComponent::changeMinMaxSize() { m_sizes.takeLimits(); }
 
 void LuDialogComponent::get2DComponentSize(LvVec2i32& size, LvVec2i32& position) const {
     const int inset = getEdgeInset();

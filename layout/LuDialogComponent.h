@@ -139,17 +139,9 @@ protected:
     LvVec2i32 m_componentInitSize{-1, -1};
     LvVec2i32 m_labelInitSize;
     LvVec2i32 m_position;
-    LvVec2i32 m_defaultSize;
-    LvVec2i32 m_defaultMinSize;
-    LvVec2i32 m_defaultMaxSize;
     LuFieldSensor* m_labelVisibilitySensor = nullptr;
     LuFieldSensor* m_edgeStyleSensor = nullptr;
-    LuFieldSensor* m_widthSensor = nullptr;
-    LuFieldSensor* m_heightSensor = nullptr;
-    LuFieldSensor* m_minWidthSensor = nullptr;
-    LuFieldSensor* m_minHeightSensor = nullptr;
-    LuFieldSensor* m_maxWidthSensor = nullptr;
-    LuFieldSensor* m_maxHeightSensor = nullptr;
+    LuSizeFields m_sizes{width, height, minWidth, minHeight, maxWidth, maxHeight};
     LuTranslation* m_mainTranslation = nullptr;
     LuScale* m_mainScale = nullptr;
     LuTransform* m_mainTransform = nullptr;
@@ -159,5 +151,4 @@ private:
     void createComponentWidget(HWND parent);
     DWORD getExtendedStyle() const;
     void attachSensors();
-    LuSizeFields getSizeFields();
 };

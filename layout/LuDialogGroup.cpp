@@ -48,8 +48,7 @@ void LuDialogGroup::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& positio
 
 void LuDialogGroup::forgetSizes() {
     if (windowResizedByChildren.getValue())
-        setSize(m_defaultSize.x, m_defaultSize.y, m_defaultMinSize.x, m_defaultMinSize.y, m_defaultMaxSize.x,
-                m_defaultMaxSize.y);
+        m_sizes.write(m_sizes.getUserSizes());
     m_childSizes.clear();
     m_componentInitSize = {-1, -1};
     m_labelInitSize = m_labelSize = {0, 0};

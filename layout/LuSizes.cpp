@@ -8,27 +8,6 @@ void fill(int& value, int defaultValue) {
         value = defaultValue;
 }
 
-void writeField(const LuSizeField& entry, int value) {
-    const int ownObservers = entry.sensor ? 1 : 0;
-    // Most sizes stay as they are in most layouts, and telling the whole tree of it is what would cost.
-    if (entry.field.getValue() == value && entry.field.getObservers().getLength() == ownObservers) {
-        entry.field.setDefault(false);
-        return;
-    }
-    if (entry.sensor)
-        entry.sensor->setPaused(true);
-    entry.field.setValue(value);
-    if (entry.sensor)
-        entry.sensor->setPaused(false);
-}
-
-void markIf(const LuSizeField& entry, bool isOpen) {
-    if (isOpen)
-        entry.field.setDefault(true);
-}
-
-bool isUnlimited(const LuSizeField& entry) { return entry.field.getValue() == LuSizes::UNLIMITED; }
-
 } // namespace
 
 void LuSizes::fillFrom(const LuSizes& defaults) {
@@ -50,20 +29,63 @@ int LuSizes::getAskedSize(int axis, int asked) const {
     return asked >= minSize[axis] ? std::min(asked, maxSize[axis]) : minSize[axis];
 }
 
-void luWriteSizes(const LuSizeFields& fields, const LuSizes& sizes) {
-    writeField(fields[0], sizes.size.x);
-    writeField(fields[1], sizes.size.y);
-    writeField(fields[2], sizes.minSize.x);
-    writeField(fields[3], sizes.minSize.y);
-    writeField(fields[4], sizes.maxSize.x);
-    writeField(fields[5], sizes.maxSize.y);
+LuSizeFields::~LuSizeFields() {
+    for (LuFieldSensor* sensor : m_sensors)
+        delete sensor;
 }
 
-void luMarkOpenSizes(const LuSizeFields& fields, const LuSizes& user, bool isFixedX, bool isFixedY) {
-    markIf(fields[0], user.size.x == 0);
-    markIf(fields[1], user.size.y == 0);
-    markIf(fields[2], user.minSize.x == 0 || isFixedX);
-    markIf(fields[3], user.minSize.y == 0 || isFixedY);
-    markIf(fields[4], user.maxSize.x == 0 || isUnlimited(fields[4]) || isFixedX);
-    markIf(fields[5], user.maxSize.y == 0 || isUnlimited(fields[5]) || isFixedY);
+int LuSizeFields::findField(const LuSensor* sensor) const {
+    const auto found = std::find(m_sensors.begin(), m_sensors.end(), sensor);
+    return sensor && found != m_sensors.end() ? static_cast<int>(found - m_sensors.begin()) : -1;
+}
+
+LuSizes LuSizeFields::getSizes() const {
+    return {{getField(WIDTH).getValue(), getField(HEIGHT).getValue()},
+            {getField(MIN_WIDTH).getValue(), getField(MIN_HEIGHT).getValue()},
+            {getField(MAX_WIDTH).getValue(), getField(MAX_HEIGHT).getValue()}};
+}
+
+void LuSizeFields::write(int index, int value) {
+    LuSFInt32& field = getField(index);
+    LuFieldSensor* const sensor = getSensor(index);
+    const int ownObservers = sensor ? 1 : 0;
+    // Most sizes stay as they are in most layouts, and telling the whole tree of it is what would cost.
+    if (field.getValue() == value && field.getObservers().getLength() == ownObservers) {
+        field.setDefault(false);
+        return;
+    }
+    if (sensor)
+        sensor->setPaused(true);
+    field.setValue(value);
+    if (sensor)
+        sensor->setPaused(false);
+}
+
+void LuSizeFields::write(const LuSizes& sizes) {
+    write(WIDTH, sizes.size.x);
+    write(HEIGHT, sizes.size.y);
+    write(MIN_WIDTH, sizes.minSize.x);
+    write(MIN_HEIGHT, sizes.minSize.y);
+    write(MAX_WIDTH, sizes.maxSize.x);
+    write(MAX_HEIGHT, sizes.maxSize.y);
+}
+
+void LuSizeFields::markIf(int field, bool isOpen) {
+    if (isOpen)
+        getField(field).setDefault(true);
+}
+
+void LuSizeFields::markOpen(bool isFixedX, bool isFixedY) {
+    markIf(WIDTH, m_user.size.x == 0);
+    markIf(HEIGHT, m_user.size.y == 0);
+    markIf(MIN_WIDTH, m_user.minSize.x == 0 || isFixedX);
+    markIf(MIN_HEIGHT, m_user.minSize.y == 0 || isFixedY);
+    markIf(MAX_WIDTH, m_user.maxSize.x == 0 || isUnlimited(MAX_WIDTH) || isFixedX);
+    markIf(MAX_HEIGHT, m_user.maxSize.y == 0 || isUnlimited(MAX_HEIGHT) || isFixedY);
+}
+
+void LuSizeFields::takeLimits() {
+    const LuSizes sizes = getSizes();
+    m_user.minSize = sizes.minSize;
+    m_user.maxSize = sizes.maxSize;
 }

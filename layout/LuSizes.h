@@ -42,27 +42,51 @@ struct LuSizes {
     int getAskedSize(int axis, int asked) const;
 };
 
-/// One size field with its sensor, which may be null.
-struct LuSizeField {
-    LuSFInt32& field;
-    LuFieldSensor* sensor;
+/// The size fields of a component with their sensors, and what the user has set in them. It belongs to the
+/// component, and ends before the fields do.
+class LuSizeFields {
+public:
+    enum Field { WIDTH, HEIGHT, MIN_WIDTH, MIN_HEIGHT, MAX_WIDTH, MAX_HEIGHT };
+
+    LuSizeFields(LuSFInt32& width, LuSFInt32& height, LuSFInt32& minWidth, LuSFInt32& minHeight,
+                 LuSFInt32& maxWidth, LuSFInt32& maxHeight)
+        : m_fields{&width, &height, &minWidth, &minHeight, &maxWidth, &maxHeight} {}
+    ~LuSizeFields();
+    LuSizeFields(const LuSizeFields&) = delete;
+    LuSizeFields& operator=(const LuSizeFields&) = delete;
+
+    LuSFInt32& getField(int field) const { return *m_fields[static_cast<std::size_t>(field)]; }
+
+    /// The sensor of a field, null until the component makes it.
+    LuFieldSensor*& getSensor(int field) { return m_sensors[static_cast<std::size_t>(field)]; }
+
+    /// Whose sensor it is; -1 for none of these.
+    int findField(const LuSensor* sensor) const;
+
+    LuSizes getSizes() const;
+
+    /// Writes the fields as the layout's own doing: their sensors stay silent, and the default flags are
+    /// clear afterwards. A field that has the value already tells nobody.
+    void write(const LuSizes& sizes);
+    void write(int field, int value);
+
+    /// Marks what the user has left open as default, so that computed sizes stay out of files. On a fixed
+    /// axis the limits are marked whatever they are.
+    void markOpen(bool isFixedX, bool isFixedY);
+
+    /// What the user has set, 0 for what was left open.
+    const LuSizes& getUserSizes() const { return m_user; }
+
+    /// Takes what stands in fields for the user's: in all of them, in the size on an axis, in the limits.
+    void takeAll() { m_user = getSizes(); }
+    void takeSize(int axis) { m_user.size[axis] = getField(WIDTH + axis).getValue(); }
+    void takeLimits();
+
+private:
+    void markIf(int field, bool isOpen);
+    bool isUnlimited(int field) const { return getField(field).getValue() == LuSizes::UNLIMITED; }
+
+    std::array<LuSFInt32*, 6> m_fields;
+    std::array<LuFieldSensor*, 6> m_sensors{};
+    LuSizes m_user;
 };
-
-/// The size fields of a component: width, height, minWidth, minHeight, maxWidth, maxHeight.
-using LuSizeFields = std::array<LuSizeField, 6>;
-
-/// The values in the size fields of a component.
-template <class Component>
-LuSizes luGetSizes(const Component& component) {
-    return {{component.width.getValue(), component.height.getValue()},
-            {component.minWidth.getValue(), component.minHeight.getValue()},
-            {component.maxWidth.getValue(), component.maxHeight.getValue()}};
-}
-
-/// Writes the fields as the layout's own doing: their sensors stay silent, and the default flags are clear
-/// afterwards. A field that has the value already tells nobody.
-void luWriteSizes(const LuSizeFields& fields, const LuSizes& sizes);
-
-/// Marks what the user has left open as default, so that computed sizes stay out of files. `user` holds what
-/// the user has set; on a fixed axis the limits are marked whatever they are.
-void luMarkOpenSizes(const LuSizeFields& fields, const LuSizes& user, bool isFixedX, bool isFixedY);

@@ -50,26 +50,15 @@ LuTopLevelDialog::~LuTopLevelDialog() {
         SetWindowLongPtrA(window, GWLP_USERDATA, 0);
         DestroyWindow(window);
     }
-    for (LuFieldSensor* sensor :
-         {m_marginSensor, m_modalFrameSensor, m_rowSpacingSensor, m_resizableSensor, m_positionSensor,
-          m_position3DSensor, m_minimizedSensor, m_independentMinimizedPositionSensor,
-          m_minimized3DPositionSensor, m_minWidthSensor, m_minHeightSensor, m_maxWidthSensor,
-          m_maxHeightSensor, m_widthSensor, m_heightSensor})
+    for (LuFieldSensor* sensor : {m_marginSensor, m_modalFrameSensor, m_rowSpacingSensor, m_resizableSensor,
+                                  m_positionSensor, m_position3DSensor, m_minimizedSensor,
+                                  m_independentMinimizedPositionSensor, m_minimized3DPositionSensor})
         delete sensor;
-}
-
-LuSizeFields LuTopLevelDialog::getSizeFields() {
-    return {{{width, m_widthSensor},
-             {height, m_heightSensor},
-             {minWidth, m_minWidthSensor},
-             {minHeight, m_minHeightSensor},
-             {maxWidth, m_maxWidthSensor},
-             {maxHeight, m_maxHeightSensor}}};
 }
 
 void LuTopLevelDialog::attachSensors() {
     // All of them are made together.
-    if (m_heightSensor)
+    if (m_marginSensor)
         return;
     attachSensor(m_marginSensor, margin);
     attachSensor(m_modalFrameSensor, modalFrame);
@@ -80,12 +69,10 @@ void LuTopLevelDialog::attachSensors() {
     attachSensor(m_minimizedSensor, minimized);
     attachSensor(m_independentMinimizedPositionSensor, independentMinimizedPosition);
     attachSensor(m_minimized3DPositionSensor, minimized3DPosition);
-    attachSensor(m_minWidthSensor, minWidth);
-    attachSensor(m_minHeightSensor, minHeight);
-    attachSensor(m_maxWidthSensor, maxWidth);
-    attachSensor(m_maxHeightSensor, maxHeight);
-    attachSensor(m_widthSensor, width);
-    attachSensor(m_heightSensor, height);
+    using Sizes = LuSizeFields;
+    for (const int field : {Sizes::MIN_WIDTH, Sizes::MIN_HEIGHT, Sizes::MAX_WIDTH, Sizes::MAX_HEIGHT,
+                            Sizes::WIDTH, Sizes::HEIGHT})
+        attachSensor(m_sizes.getSensor(field), m_sizes.getField(field));
 }
 
 LuTopComponent* LuTopLevelDialog::findMenuBar() const {
@@ -156,7 +143,7 @@ void LuTopLevelDialog::fixSizeWithBorder(LvVec2i32& size, int sign) const {
 }
 
 void LuTopLevelDialog::getSize(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize) {
-    LuSizes sizes = luGetSizes(*this);
+    LuSizes sizes = m_sizes.getSizes();
     if (sizes.hasOpen()) {
         LuSizes defaults;
         getDefaultSize(defaults.size, defaults.minSize, defaults.maxSize);
@@ -179,7 +166,7 @@ void LuTopLevelDialog::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& buil
     LuPanelix::buildWidget(parent, size, builtPosition, is2D);
     // Before anything is computed the fields hold what the user has set.
     if (m_firstBuild)
-        m_defaultSizes = luGetSizes(*this);
+        m_sizes.takeAll();
     m_firstBuild = 0;
     if (is2D && !existWidget(m_baseWidget))
         createBaseWidget(parent);
@@ -189,7 +176,7 @@ void LuTopLevelDialog::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& buil
     sizes.size = {sizes.getAskedSize(0, size.x), sizes.getAskedSize(1, size.y)};
     if (!resizable.getValue())
         sizes.minSize = sizes.maxSize = sizes.size;
-    luWriteSizes(getSizeFields(), sizes);
+    m_sizes.write(sizes);
     setDefaultState();
     if (is2D) {
         updateBaseWidget();
@@ -209,19 +196,19 @@ void LuTopLevelDialog::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& buil
 
 void LuTopLevelDialog::setSize(int newWidth, int newHeight, int newMinWidth, int newMinHeight,
                                int newMaxWidth, int newMaxHeight) {
-    luWriteSizes(getSizeFields(),
-                 {{newWidth, newHeight}, {newMinWidth, newMinHeight}, {newMaxWidth, newMaxHeight}});
+    m_sizes.write({{newWidth, newHeight}, {newMinWidth, newMinHeight}, {newMaxWidth, newMaxHeight}});
 }
 
 void LuTopLevelDialog::setDefaultState() {
     const bool isFixed = !resizable.getValue();
-    luMarkOpenSizes(getSizeFields(), m_defaultSizes, isFixed, isFixed);
+    m_sizes.markOpen(isFixed, isFixed);
 }
 
 void LuTopLevelDialog::getDefaultState(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize) const {
-    size = m_defaultSizes.size;
-    minSize = m_defaultSizes.minSize;
-    maxSize = m_defaultSizes.maxSize;
+    const LuSizes& user = m_sizes.getUserSizes();
+    size = user.size;
+    minSize = user.minSize;
+    maxSize = user.maxSize;
 }
 
 void LuTopLevelDialog::setPosition(const LvVec2i32& newPosition) {
@@ -230,14 +217,9 @@ void LuTopLevelDialog::setPosition(const LvVec2i32& newPosition) {
         position.setDefault(true);
 }
 
-void LuTopLevelDialog::changeMinMaxSize() {
-    m_defaultSizes.minSize.setValue(minWidth.getValue(), minHeight.getValue());
-    m_defaultSizes.maxSize.setValue(maxWidth.getValue(), maxHeight.getValue());
-}
-
 void LuTopLevelDialog::resetSize() {
     if (windowResizedByChildren.getValue())
-        luWriteSizes(getSizeFields(), m_defaultSizes);
+        m_sizes.write(m_sizes.getUserSizes());
     for (int i = 0; i < getNumChildren(); ++i)
         getChild(i)->resetSize();
 }
@@ -267,13 +249,12 @@ void LuTopLevelDialog::updateAfterSceneGraphChange() {
 void LuTopLevelDialog::updateFromSensor(LuSensor* sensor) {
     if (sensor == m_marginSensor || sensor == m_rowSpacingSensor) {
         // They count in the next layout.
-    } else if (sensor == m_widthSensor) {
+    } else if (const int field = m_sizes.findField(sensor); field == LuSizeFields::WIDTH) {
         changeWidth();
-    } else if (sensor == m_heightSensor) {
+    } else if (field == LuSizeFields::HEIGHT) {
         changeHeight();
-    } else if (sensor == m_minWidthSensor || sensor == m_minHeightSensor || sensor == m_maxWidthSensor ||
-               sensor == m_maxHeightSensor) {
-        changeMinMaxSize();
+    } else if (field >= 0) {
+        m_sizes.takeLimits();
     } else if (sensor == m_resizableSensor) {
         changeResizable();
     } else if (sensor == m_modalFrameSensor) {

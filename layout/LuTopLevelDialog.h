@@ -119,8 +119,8 @@ class LuTopLevelDialog : public LuChildHolder<LuPanelix, LuTopComponent> {
     void resetSize() override;
     void changeEnable() override;
     void changeLabel() override;
-    virtual void changeWidth() { m_defaultSizes.size.x = width.getValue(); }
-    virtual void changeHeight() { m_defaultSizes.size.y = height.getValue(); }
+    virtual void changeWidth() { m_sizes.takeSize(0); }
+    virtual void changeHeight() { m_sizes.takeSize(1); }
     void show3D(int show) override;
     void change3DPosition() override;
     void change3DLabel() override;
@@ -138,7 +138,6 @@ protected:
 
 private:
     void initWidgetConstant();
-    LuSizeFields getSizeFields();
     void attachSensors();
     LuDialogComponent* getSizedChild(int index) const;
     LuTopComponent* findMenuBar() const;
@@ -156,7 +155,6 @@ private:
     void changePosition();
     void changeResizable();
     void changeModalFrame();
-    void changeMinMaxSize();
     void readWheelLines();
     void handleResize(HWND window, WPARAM wParam);
     void handleWheel(WPARAM wParam);
@@ -195,7 +193,6 @@ private:
     int m_menuHeight = 0;
     int m_scrollBarWidth = 0;
     int m_titleHeight = 0;
-    LuSizes m_defaultSizes; ///< As the user set them, 0 for what was left open.
     std::unique_ptr<LuTopLevelAuditor> m_topAuditor;
 
     LuFieldSensor* m_marginSensor = nullptr;
@@ -207,12 +204,7 @@ private:
     LuFieldSensor* m_minimizedSensor = nullptr;
     LuFieldSensor* m_independentMinimizedPositionSensor = nullptr;
     LuFieldSensor* m_minimized3DPositionSensor = nullptr;
-    LuFieldSensor* m_minWidthSensor = nullptr;
-    LuFieldSensor* m_minHeightSensor = nullptr;
-    LuFieldSensor* m_maxWidthSensor = nullptr;
-    LuFieldSensor* m_maxHeightSensor = nullptr;
-    LuFieldSensor* m_widthSensor = nullptr;
-    LuFieldSensor* m_heightSensor = nullptr;
+    LuSizeFields m_sizes{width, height, minWidth, minHeight, maxWidth, maxHeight};
 
     LuScale* m_frameScale = nullptr;
     LuTranslation* m_frameTranslation = nullptr;

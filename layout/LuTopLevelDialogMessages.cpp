@@ -40,9 +40,9 @@ void LuTopLevelDialog::readWheelLines() {
 void LuTopLevelDialog::handleResize(HWND window, WPARAM wParam) {
     RECT rect{};
     GetWindowRect(window, &rect);
-    LuSizes sizes = luGetSizes(*this);
+    LuSizes sizes = m_sizes.getSizes();
     sizes.size.setValue(static_cast<int>(rect.right - rect.left), static_cast<int>(rect.bottom - rect.top));
-    luWriteSizes(getSizeFields(), sizes);
+    m_sizes.write(sizes);
     setDefaultState();
     setPosition({static_cast<int>(rect.left), static_cast<int>(rect.top)});
     if (wParam != SIZE_MINIMIZED)

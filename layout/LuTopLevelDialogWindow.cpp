@@ -159,12 +159,12 @@ void LuTopLevelDialog::changeResizable() {
     SetWindowPos(m_baseWidget, nullptr, 0, 0, 0, 0, CHANGED_FRAME);
     LuSizes needed;
     getDefaultSize(needed.size, needed.minSize, needed.maxSize);
-    setWithoutSensor(minWidth, needed.minSize.x, m_minWidthSensor);
-    setWithoutSensor(minHeight, needed.minSize.y, m_minHeightSensor);
+    m_sizes.write(LuSizeFields::MIN_WIDTH, needed.minSize.x);
+    m_sizes.write(LuSizeFields::MIN_HEIGHT, needed.minSize.y);
     const bool isWide = needed.maxSize.x == LuSizes::UNLIMITED;
     const bool isHigh = needed.maxSize.y == LuSizes::UNLIMITED;
-    setWithoutSensor(maxWidth, isWide ? 0 : needed.maxSize.x, m_maxWidthSensor);
-    setWithoutSensor(maxHeight, isHigh ? 0 : needed.maxSize.y, m_maxHeightSensor);
+    m_sizes.write(LuSizeFields::MAX_WIDTH, isWide ? 0 : needed.maxSize.x);
+    m_sizes.write(LuSizeFields::MAX_HEIGHT, isHigh ? 0 : needed.maxSize.y);
     if (isWide)
         maxWidth.setDefault(true);
     if (isHigh)
