@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/lumora/nodes/LuProperties.h"
 #include "platform/lumora/nodes/LuTransforms.h"
 #include "platform/lumora/win/LuWin.h"
 #include "tests/layout/DialogTest.h"
@@ -12,7 +13,10 @@ class Probe : public LuDialogComponent {
 public:
     using LuDialogComponent::m_labelSize;
     using LuDialogComponent::m_mainScale;
+    using LuDialogComponent::m_mainTransform;
     using LuDialogComponent::m_mainTranslation;
+    using LuDialogComponent::m_material;
+    using LuDialogComponent::m_pickStyle;
 
     void eventNotify(unsigned int event, std::uint64_t value) override { events.emplace_back(event, value); }
 
@@ -26,6 +30,12 @@ protected:
                                    LuWin::getInstance(), nullptr);
     }
     ~LuDialogComponentTest() override { DestroyWindow(m_parent); }
+
+    LuSizes getUserSizes() const {
+        LuSizes user;
+        m_probe->getDefaultState(user.size, user.minSize, user.maxSize);
+        return user;
+    }
 
     HWND m_parent;
     Held<Probe> m_probe;
@@ -225,6 +235,109 @@ TEST_F(LuDialogComponentTest, resetSize_forgetsComputedSizes) {
     EXPECT_EQ(m_probe->width.getValue(), 0);
     EXPECT_EQ(m_probe->height.getValue(), 0);
     EXPECT_EQ(m_probe->minWidth.getValue(), 25);
+}
+
+TEST_F(LuDialogComponentTest, sizesThatTheLayoutWrites_areNotTakenForTheUsers) {
+    m_probe->minWidth = 30;
+    build(m_probe.get(), m_parent, 1);
+    build(m_probe.get(), m_parent, 1, {150, 40});
+    EXPECT_EQ(m_probe->width.getValue(), 150);
+    EXPECT_EQ(getUserSizes().size, LvVec2i32(0, 0));
+    EXPECT_EQ(getUserSizes().minSize, LvVec2i32(30, 0));
+    EXPECT_EQ(getUserSizes().maxSize, LvVec2i32(0, 0));
+}
+
+TEST_F(LuDialogComponentTest, sizesSetAfterTheBuild_areTheUsers) {
+    build(m_probe.get(), m_parent, 1);
+    m_probe->width = 90;
+    m_probe->height = 30;
+    EXPECT_EQ(getUserSizes().size, LvVec2i32(90, 30));
+    m_probe->maxHeight = 77;
+    EXPECT_EQ(getUserSizes().minSize, LvVec2i32(25, 25));
+    EXPECT_EQ(getUserSizes().maxSize, LvVec2i32(UNLIMITED, 77));
+}
+
+TEST_F(LuDialogComponentTest, unlimitedMaximumOfTheUser_isNotWritten) {
+    m_probe->maxWidth = UNLIMITED;
+    build(m_probe.get(), m_parent, 1);
+    EXPECT_TRUE(m_probe->maxWidth.isDefault());
+}
+
+TEST_F(LuDialogComponentTest, scrollBarsOfTheCarrier_moveWhatIsInside) {
+    build(m_probe.get(), m_parent, 1, {100, 100});
+    ShowWindow(m_parent, SW_SHOW);
+    const HWND carrier = m_probe->getWidget();
+    const HWND content = CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 10, 10, carrier, nullptr,
+                                         LuWin::getInstance(), nullptr);
+    for (const int bar : {SB_HORZ, SB_VERT}) {
+        SCROLLINFO info{};
+        info.cbSize = sizeof(info);
+        info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+        info.nMax = 100;
+        info.nPage = 11;
+        info.nPos = 50;
+        SetScrollInfo(carrier, bar, &info, FALSE);
+        int moved = 0;
+        for (const auto& [code, step] : {std::pair{SB_LINEUP, -1},
+                                         {SB_LINEDOWN, 1},
+                                         {SB_PAGEUP, -10},
+                                         {SB_PAGEDOWN, 10},
+                                         {SB_THUMBTRACK, 0},
+                                         {SB_ENDSCROLL, 0},
+                                         {SB_TOP, 0}}) {
+            SendMessageA(carrier, bar == SB_HORZ ? WM_HSCROLL : WM_VSCROLL, static_cast<WPARAM>(code), 0);
+            moved += step;
+            EXPECT_EQ(GetScrollPos(carrier, bar), 50 + moved) << bar << " " << code;
+            const LvVec2i32 corner = getCorner(content);
+            EXPECT_EQ(bar == SB_HORZ ? corner.x : corner.y, -moved) << bar << " " << code;
+        }
+    }
+}
+
+TEST_F(LuDialogComponentTest, carrierWindow_isOfAClassOfItsOwn) {
+    build(m_probe.get(), m_parent, 1);
+    std::string name;
+    WNDCLASSA info{};
+    ASSERT_TRUE(LuWin::getClassInfo(LuWin::getInstance(), "LuDialogComponent", name, info));
+    EXPECT_EQ(info.style, 0x83u);
+    EXPECT_EQ(info.cbClsExtra, 0);
+    EXPECT_EQ(info.cbWndExtra, 8);
+    EXPECT_EQ(info.hIcon, nullptr);
+    EXPECT_NE(info.hCursor, nullptr);
+    EXPECT_EQ(LuWin::getWindowText(m_probe->getWidget()), "LuDialogComponent");
+}
+
+TEST_F(LuDialogComponentTest, geometry_hasItsNodesInOrder) {
+    build(m_probe.get(), nullptr, 0);
+    auto* const geometry = static_cast<LuGroup*>(m_probe->getPart("geomSwitch", false));
+    ASSERT_EQ(geometry->getNumChildren(), 5);
+    EXPECT_EQ(geometry->getChild(0), m_probe->m_material);
+    EXPECT_EQ(geometry->getChild(1), m_probe->m_pickStyle);
+    EXPECT_EQ(geometry->getChild(2), m_probe->m_mainTranslation);
+    EXPECT_EQ(geometry->getChild(3), m_probe->getPart("mainCptSeparator", false));
+    EXPECT_EQ(geometry->getChild(4), m_probe->m_mainTransform);
+    auto* const frame = static_cast<LuGroup*>(geometry->getChild(3));
+    EXPECT_EQ(frame->getChild(0), m_probe->m_mainScale);
+}
+
+TEST_F(LuDialogComponentTest, geometryOfAChild_standsRelativeToTheCornerOfItsGroup) {
+    const Held<LuRowDialog> row;
+    row->addChild(m_probe.get());
+    row->margin = 5;
+    build(row.get(), nullptr, 0, {}, {10, 20});
+    EXPECT_EQ(m_probe->m_mainTranslation->translation.getValue(), LvVec3f(10 + 5 + 103, -20 - 5 - 17, 0));
+    EXPECT_EQ(m_probe->m_mainScale->scaleFactor.getValue(), LvVec3f(206, 34, 1));
+    row->removeChild(m_probe.get());
+}
+
+TEST_F(LuDialogComponentTest, geometryInAGroupThatIsNotTraversed_standsAtTheOrigin) {
+    const Held<LuRowDialog> row;
+    row->addChild(m_probe.get());
+    build(row.get(), nullptr, 0, {}, {10, 20});
+    row->setCanBeTraversed(0);
+    build(m_probe.get(), nullptr, 0);
+    EXPECT_EQ(m_probe->m_mainTranslation->translation.getValue(), LvVec3f(103, -17, 0));
+    row->removeChild(m_probe.get());
 }
 
 TEST_F(LuDialogComponentTest, geometry_standsWithItsCornerAtThePosition) {

@@ -1,10 +1,49 @@
 // SPDX-License-Identifier: MIT
 #include "platform/lumora/actions/LuSearchAction.h"
+#include "platform/lumora/nodes/LuProperties.h"
+#include "platform/lumora/nodes/LuTransforms.h"
 #include "tests/layout/DialogTest.h"
 
 namespace {
 
-using LuDialogGroupTest = DialogTest;
+class LuDialogGroupTest : public DialogTest {
+protected:
+    /// The range and the position of a scroll bar that shows.
+    static SCROLLINFO getScrollInfo(HWND window, int bar) {
+        SCROLLINFO info{};
+        info.cbSize = sizeof(info);
+        info.fMask = SIF_ALL;
+        EXPECT_TRUE(GetScrollInfo(window, bar, &info));
+        return info;
+    }
+};
+
+/// A dialog with a row that is 40 high and needs 62: two children of 28 with the frame.
+constexpr const char* s_lowRow = "TopLevelDialog { RowDialog { minHeight 20 height 40 maxHeight 40"
+                                 " DialogComponent { fixedHeight TRUE }"
+                                 " DialogComponent { fixedHeight TRUE } } }";
+
+/// Opens the operations of generic code, and what subclasses see.
+class OpenRow : public LuRowDialog {
+public:
+    using LuBaseKit::m_children;
+    using LuRowDialog::internalAddChild;
+    using LuRowDialog::internalFindChild;
+    using LuRowDialog::internalGetChild;
+    using LuRowDialog::internalInsertChild;
+    using LuRowDialog::internalRemoveAllChildren;
+    using LuRowDialog::internalRemoveChild;
+    using LuRowDialog::internalReplaceChild;
+};
+
+int getShown(LuPanelix* component) {
+    return static_cast<LuSwitch*>(component->getPart("geomSwitch", true))->whichChild.getValue();
+}
+
+LuPickStyle* getPickStyle(LuPanelix* component) {
+    auto* const geometry = static_cast<LuGroup*>(component->getPart("geomSwitch", true));
+    return static_cast<LuPickStyle*>(geometry->getChild(1));
+}
 
 TEST_F(LuDialogGroupTest, childrenAddedBeforeTheFirstBuild_rebuildNothing) {
     auto* const dialog = read<LuTopLevelDialog>("TopLevelDialog { RowDialog { } }");
@@ -192,6 +231,156 @@ TEST_F(LuDialogGroupTest, roomBelowTheMinimum_showsAScrollBarAndScrolls) {
     SendMessageA(window, WM_VSCROLL, SB_LINEUP, 0);
     SendMessageA(window, WM_VSCROLL, SB_LINEUP, 0);
     EXPECT_EQ(getCorner(row->getChild(1)->getWidget()).y, before);
+}
+
+TEST_F(LuDialogGroupTest, scrollBar_hasTheMinimumAsItsRangeAndTheWindowAsItsPage) {
+    auto* const dialog = read<LuTopLevelDialog>(s_lowRow);
+    dialog->buildDialog(nullptr, 0);
+    auto* const row = static_cast<LuRowDialog*>(dialog->getChild(0));
+    SCROLLINFO info = getScrollInfo(row->getWidget(), SB_VERT);
+    EXPECT_EQ(info.nMin, 0);
+    EXPECT_EQ(info.nMax, 62);
+    EXPECT_EQ(info.nPage, 40u);
+    // The bar below takes its room from the window, and counts in the range once more.
+    row->hScrollVisibility = LuDialogGroup::ALWAYS;
+    build(row, dialog->getWidget(), 1);
+    info = getScrollInfo(row->getWidget(), SB_VERT);
+    EXPECT_EQ(info.nMax, 62 + 16 + 16);
+}
+
+TEST_F(LuDialogGroupTest, scrollBarThatNeverShows_doesNotComeForTooLittleRoom) {
+    auto* const dialog = read<LuTopLevelDialog>(s_lowRow);
+    auto* const row = static_cast<LuRowDialog*>(dialog->getChild(0));
+    row->vScrollVisibility = LuDialogGroup::NEVER;
+    dialog->buildDialog(nullptr, 0);
+    EXPECT_FALSE(GetWindowLongPtrA(row->getWidget(), GWL_STYLE) & WS_VSCROLL);
+}
+
+TEST_F(LuDialogGroupTest, scrolledGroup_staysScrolledWhenItIsLaidOutAgain) {
+    auto* const dialog = read<LuTopLevelDialog>(s_lowRow);
+    dialog->buildDialog(nullptr, 0);
+    dialog->show();
+    auto* const row = static_cast<LuRowDialog*>(dialog->getChild(0));
+    for (int i = 0; i < 5; ++i)
+        SendMessageA(row->getWidget(), WM_VSCROLL, SB_LINEDOWN, 0);
+    const LvVec2i32 first = getCorner(row->getChild(0)->getWidget());
+    EXPECT_EQ(first.y, -5);
+    build(row, dialog->getWidget(), 1);
+    EXPECT_EQ(getCorner(row->getChild(0)->getWidget()), first);
+    EXPECT_EQ(getScrollInfo(row->getWidget(), SB_VERT).nPos, 5);
+}
+
+TEST_F(LuDialogGroupTest, removeAllChildren_rebuildsTheDialogAbove) {
+    auto* const dialog =
+        read<LuTopLevelDialog>("TopLevelDialog { RowDialog { RowDialog { DialogComponent { } "
+                               "} DialogComponent { } } }");
+    dialog->buildDialog(nullptr, 0);
+    auto* const outer = static_cast<LuRowDialog*>(dialog->getChild(0));
+    auto* const inner = static_cast<LuRowDialog*>(outer->getChild(0));
+    EXPECT_GE(inner->height.getValue(), 28);
+    inner->removeAllChildren();
+    EXPECT_EQ(getSizesOf(inner).minSize.y, inner->minHeight.getValue());
+    EXPECT_EQ(inner->minHeight.getValue(), 6);
+    EXPECT_TRUE(outer->minHeight.isDefault());
+}
+
+TEST_F(LuDialogGroupTest, show3D_reachesTheChildren) {
+    const Held<LuRowDialog> row;
+    row->addChild(new LuDialogComponent);
+    buildIn3D(row.get());
+    row->show3D(0);
+    EXPECT_EQ(getShown(row.get()), LuSwitch::SHOW_NONE);
+    EXPECT_EQ(getShown(row->getChild(0)), LuSwitch::SHOW_NONE);
+}
+
+TEST_F(LuDialogGroupTest, newPlaceIn3D_reachesTheChildrenWithTheDepthOfTheFrame) {
+    const Held<LuRowDialog> row;
+    row->addChild(new LuDialogComponent);
+    buildIn3D(row.get());
+    const float depth = row->getChild(0)->get3DParentTranslation().z;
+    EXPECT_GT(depth, 0);
+    LvVec3f moved(10, 20, 30);
+    row->set3DParentTranslation(moved);
+    row->change3DPosition();
+    EXPECT_EQ(row->getChild(0)->get3DParentTranslation(), LvVec3f(10, 20, 30 + depth));
+}
+
+TEST_F(LuDialogGroupTest, groupThatIsDisabled_disablesItsChildrenIn3D) {
+    const Held<LuRowDialog> row;
+    row->enable = false;
+    row->addChild(new LuDialogComponent);
+    row->addChild(new LuDialogComponent);
+    row->getChild(1)->enable = false;
+    buildIn3D(row.get());
+    EXPECT_EQ(getPickStyle(row->getChild(0))->style.getValue(), LuPickStyle::UNPICKABLE);
+    row->enable = true;
+    EXPECT_EQ(getPickStyle(row->getChild(0))->style.getValue(), LuPickStyle::SHAPE);
+    EXPECT_EQ(getPickStyle(row->getChild(1))->style.getValue(), LuPickStyle::UNPICKABLE);
+}
+
+TEST_F(LuDialogGroupTest, operationsOfGenericCode_changeTheChildren) {
+    const Held<OpenRow> row;
+    auto* const first = new LuDialogComponent;
+    auto* const second = new LuDialogComponent;
+    auto* const third = new LuDialogComponent;
+    row->internalAddChild(second);
+    row->internalInsertChild(first, 0);
+    EXPECT_EQ(row->getNumChildren(), 2);
+    EXPECT_EQ(row->internalFindChild(second), 1);
+    EXPECT_EQ(row->internalGetChild(0), first);
+    row->internalReplaceChild(first, third);
+    EXPECT_EQ(row->getChild(0), third);
+    EXPECT_EQ(third->getParent(), row.get());
+    row->internalReplaceChild(1, new LuDialogComponent);
+    row->internalRemoveChild(third);
+    EXPECT_EQ(row->getNumChildren(), 1);
+    row->internalRemoveChild(0);
+    EXPECT_EQ(row->getNumChildren(), 0);
+    row->internalAddChild(new LuDialogComponent);
+    row->internalRemoveAllChildren();
+    EXPECT_EQ(row->getNumChildren(), 0);
+}
+
+TEST_F(LuDialogGroupTest, nodeThatIsNoComponent_standsAmongThePartsOfTheKit) {
+    const Held<OpenRow> row;
+    row->addChild(new LuDialogComponent);
+    const Held<LuTranslation> node;
+    row->internalAddChild(node.get());
+    EXPECT_EQ(row->getNumChildren(), 1);
+    EXPECT_EQ(row->findChild(row->getChild(0)), 0);
+    EXPECT_GE(row->internalFindChild(node.get()), 1);
+    row->internalRemoveChild(node.get());
+    EXPECT_EQ(row->internalFindChild(node.get()), -1);
+    EXPECT_EQ(row->getChildren(), &row->m_children);
+}
+
+TEST_F(LuDialogGroupTest, searchForAllInKits_endsItsPathsAtComponents) {
+    const Held<LuRowDialog> row;
+    row->addChild(new LuDialogComponent);
+    row->addChild(new LuDialogComponent);
+    buildIn3D(row.get());
+    LuBaseKit::searchingChildren = true;
+    LuSearchAction action;
+    action.setType(LuScale::getClassTypeId());
+    action.setInterest(LuSearchAction::ALL);
+    action.apply(row.get());
+    LuBaseKit::searchingChildren = false;
+    ASSERT_GE(action.getPaths().getLength(), 2);
+    EXPECT_EQ(action.getPaths()[0].getTail(), row->getChild(0));
+    EXPECT_EQ(action.getPaths()[1].getTail(), row->getChild(1));
+}
+
+TEST_F(LuDialogGroupTest, searchForTheFirstInKits_endsItsPathAtTheComponent) {
+    const Held<LuRowDialog> row;
+    row->addChild(new LuDialogComponent);
+    buildIn3D(row.get());
+    LuBaseKit::searchingChildren = true;
+    LuSearchAction action;
+    action.setType(LuScale::getClassTypeId());
+    action.apply(row.get());
+    LuBaseKit::searchingChildren = false;
+    ASSERT_NE(action.getPath(), nullptr);
+    EXPECT_EQ(action.getPath()->getTail(), row->getChild(0));
 }
 
 TEST_F(LuDialogGroupTest, writtenGroup_isReadAgain) {

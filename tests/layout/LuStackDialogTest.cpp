@@ -1,7 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "tests/layout/DialogTest.h"
 
+#include <numeric>
+
 namespace {
+
+/// A child with a content of a given size; it tells what its container has said.
+class Content : public LuDialogComponent {
+public:
+    explicit Content(LvVec2i32 size, const char* text = "") : m_size(size) { label = LvString(text); }
+
+    using LuDialogComponent::m_componentSize;
+    using LuDialogComponent::m_labelSize;
+
+    LvVec2i32 getComponentInitSize() override { return m_size; }
+    void setStackAxis(int newAxis) override { axis = newAxis; }
+
+    int axis = -1;
+
+private:
+    LvVec2i32 m_size;
+};
 
 class LuStackDialogTest : public DialogTest {
 protected:
@@ -123,6 +142,126 @@ TEST_F(LuStackDialogTest, contentSize_isTheSumAlongTheMainAxisWithItsGaps) {
     column->addChild(new LuDialogComponent);
     EXPECT_EQ(column->getComponentInitSize(), LvVec2i32(5, 8));
     column->resetSize();
+}
+
+TEST_F(LuStackDialogTest, contentSizeOfAColumn_isTheSumOfTheWidthsAndTheLargestHeight) {
+    const Held<LuColumnDialog> column;
+    column->margin = 4;
+    column->columnSpacing = 3;
+    auto* const low = new Content({50, 20});
+    column->addChild(low);
+    column->addChild(new Content({30, 40}));
+    EXPECT_EQ(column->getComponentInitSize(), LvVec2i32(8 + 50 + 30 + 3, 40));
+    EXPECT_EQ(low->axis, 0);
+}
+
+TEST_F(LuStackDialogTest, contentSizeOfARow_isTheSumOfTheHeightsAndTheLargestWidth) {
+    const Held<LuRowDialog> row;
+    row->margin = 4;
+    row->rowSpacing = 3;
+    auto* const low = new Content({50, 20});
+    row->addChild(low);
+    row->addChild(new Content({30, 40}));
+    EXPECT_EQ(row->getComponentInitSize(), LvVec2i32(50, 8 + 20 + 40 + 3));
+    EXPECT_EQ(low->axis, 1);
+}
+
+TEST_F(LuStackDialogTest, contentNarrowerThanTheMargins_countsTheMargins) {
+    const Held<LuRowDialog> row;
+    row->margin = 4;
+    row->addChild(new Content({7, 20}));
+    EXPECT_EQ(row->getComponentInitSize().x, 8);
+}
+
+TEST_F(LuStackDialogTest, controlsInARow_getACommonWidthAndTheHeightThatTheyOrTheirLabelsNeed) {
+    const Held<LuRowDialog> row;
+    auto* const wide = new Content({90, 40});
+    auto* const low = new Content({30, 2}, "Label");
+    auto* const silent = new Content({30, 2}, "Label");
+    silent->labelVisibility = false;
+    for (Content* child : {wide, low, silent})
+        row->addChild(child);
+    row->setChildrenComponentSize();
+    EXPECT_EQ(wide->m_componentSize, LvVec2i32(90, 40));
+    EXPECT_EQ(low->m_componentSize, LvVec2i32(90, LuPanelix::getLabelPixelSize("Label", nullptr).y));
+    EXPECT_EQ(silent->m_componentSize, LvVec2i32(90, 2));
+    row->setChildrenLabelSize();
+    EXPECT_EQ(silent->m_labelSize, low->m_labelSize);
+}
+
+TEST_F(LuStackDialogTest, controlsInAColumn_areEachAsLargeAsTheyNeed) {
+    const Held<LuColumnDialog> column;
+    auto* const wide = new Content({90, 40});
+    auto* const low = new Content({30, 2}, "Label");
+    auto* const silent = new Content({30, 2}, "Label");
+    silent->labelVisibility = false;
+    for (Content* child : {wide, low, silent})
+        column->addChild(child);
+    column->setChildrenComponentSize();
+    EXPECT_EQ(wide->m_componentSize, LvVec2i32(90, 40));
+    EXPECT_EQ(low->m_componentSize, LvVec2i32(30, LuPanelix::getLabelPixelSize("Label", nullptr).y));
+    EXPECT_EQ(silent->m_componentSize, LvVec2i32(30, 2));
+    column->setChildrenLabelSize();
+    EXPECT_EQ(silent->m_labelSize, LvVec2i32(0, 0));
+}
+
+TEST_F(LuStackDialogTest, sizes_areThoseOfTheChildrenWithMarginSpacingAndFrame) {
+    const Held<LuColumnDialog> column;
+    column->margin = 4;
+    column->columnSpacing = 3;
+    for (const int limit : {300, 400}) {
+        auto* const child = new LuDialogComponent;
+        child->maxWidth = limit;
+        child->maxHeight = limit;
+        column->addChild(child);
+    }
+    const LuSizes sizes = getSizesOf(column.get());
+    EXPECT_EQ(sizes.size, LvVec2i32(400 + 8 + 3 + 6, 28 + 8 + 6));
+    EXPECT_EQ(sizes.minSize, LvVec2i32(50 + 8 + 3 + 6, 25 + 8 + 6));
+    EXPECT_EQ(sizes.maxSize, LvVec2i32(700 + 8 + 3 + 6, 400 + 8 + 6));
+}
+
+TEST_F(LuStackDialogTest, singlePixels_goToOneChildAfterTheOtherOverSeveralLayouts) {
+    auto* const column = buildDialog<LuColumnDialog>(
+        "ColumnDialog { edgeStyle SHADOW_OUT DialogComponent { width 50 } DialogComponent { width 50 }"
+        " DialogComponent { width 50 } }");
+    build(column, m_dialog->getWidget(), 1, {156, 0});
+    const std::vector<int> before = getWidths(column);
+    std::vector<int> total(3);
+    for (int step = 1; step <= 3; ++step) {
+        build(column, m_dialog->getWidget(), 1, {156 + step, 0});
+        const std::vector<int> after = getWidths(column);
+        EXPECT_EQ(std::accumulate(after.begin(), after.end(), 0), 150 + step);
+        for (std::size_t i = 0; i < 3; ++i)
+            total[i] = after[i] - before[i];
+    }
+    EXPECT_EQ(total, (std::vector<int>{1, 1, 1}));
+}
+
+TEST_F(LuStackDialogTest, childSmallerThanItWasAskedFor_leavesNoGap) {
+    auto* const row = buildDialog<LuRowDialog>(
+        "RowDialog { edgeStyle SHADOW_OUT DialogComponent { maxHeight 26 } DialogComponent { } }");
+    EXPECT_EQ(getCorner(row->getChild(1)->getWidget()).y, 26);
+}
+
+TEST_F(LuStackDialogTest, edgeStyle_insetsTheChildrenBy3In3DWhateverTheShadow) {
+    for (const auto& [style, inset] : {std::pair{LuDialogComponent::NONE, 5},
+                                       {LuDialogComponent::SHADOW_IN, 8},
+                                       {LuDialogComponent::SHADOW_OUT, 8}}) {
+        const Held<LuColumnDialog> column;
+        column->margin = 5;
+        column->edgeStyle = style;
+        column->addChild(new LuDialogComponent);
+        buildIn3D(column.get());
+        EXPECT_EQ(column->getChild(0)->getPosition(), LvVec2i32(inset, inset)) << style;
+    }
+}
+
+TEST_F(LuStackDialogTest, containersGeometry_hasNoTransformBehindItsFrame) {
+    const Held<LuColumnDialog> column;
+    buildIn3D(column.get());
+    auto* const geometry = static_cast<LuGroup*>(column->getPart("geomSwitch", false));
+    EXPECT_EQ(geometry->getChild(geometry->getNumChildren() - 1), column->getPart("mainCptSeparator", false));
 }
 
 TEST_F(LuStackDialogTest, edgeStyle_movesTheChildrenToItsInset) {

@@ -13,6 +13,21 @@ LRESULT CALLBACK spyProcedure(HWND window, UINT message, WPARAM wParam, LPARAM l
     return CallWindowProcA(s_procedure, window, message, wParam, lParam);
 }
 
+/// Sets the user's lines for each notch of the wheel while it lives.
+class WheelLines {
+public:
+    explicit WheelLines(UINT lines) {
+        SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &m_before, 0);
+        EXPECT_TRUE(SystemParametersInfoA(SPI_SETWHEELSCROLLLINES, lines, nullptr, 0));
+    }
+    WheelLines(const WheelLines&) = delete;
+    WheelLines& operator=(const WheelLines&) = delete;
+    ~WheelLines() { SystemParametersInfoA(SPI_SETWHEELSCROLLLINES, m_before, nullptr, 0); }
+
+private:
+    UINT m_before = 0;
+};
+
 class LuTopLevelDialogTest : public DialogTest {
 protected:
     LuTopLevelDialog* buildDialog(const char* text) {
@@ -195,9 +210,18 @@ TEST_F(LuTopLevelDialogTest, wheelBeforeTheSettingsAreKnown_doesNothing) {
 
 TEST_F(LuTopLevelDialogTest, wheel_scrollsTheLinesOfTheSystem) {
     LuTopLevelDialog* const dialog = buildDialog(s_oneChild);
-    UINT lines = 0;
-    SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-    ASSERT_EQ(lines, 3u);
+    for (const UINT lines : {0u, 1u, 2u, WHEEL_PAGESCROLL}) {
+        const WheelLines setting(lines);
+        SendMessageA(dialog->getBaseWidget(), WM_SETTINGCHANGE, 0, 0);
+        const int expected = lines == WHEEL_PAGESCROLL ? 0 : static_cast<int>(lines);
+        EXPECT_EQ(countScrolls(dialog, 120, SB_LINEUP), expected);
+        EXPECT_EQ(countScrolls(dialog, -120, SB_LINEDOWN), expected);
+    }
+}
+
+TEST_F(LuTopLevelDialogTest, partsOfANotch_addUp) {
+    LuTopLevelDialog* const dialog = buildDialog(s_oneChild);
+    const WheelLines setting(3);
     SendMessageA(dialog->getBaseWidget(), WM_SETTINGCHANGE, 0, 0);
     EXPECT_EQ(countScrolls(dialog, 120, SB_LINEUP), 3);
     EXPECT_EQ(countScrolls(dialog, -240, SB_LINEDOWN), 6);
@@ -229,10 +253,120 @@ TEST_F(LuTopLevelDialogTest, modalFrame_setsTheStylesAndAChangeOthers) {
     EXPECT_EQ(GetWindowLongPtrA(base, GWL_EXSTYLE), 393);
     dialog->modalFrame = false;
     EXPECT_FALSE(GetWindowLongPtrA(base, GWL_EXSTYLE) & WS_EX_TOPMOST);
+    dialog->modalFrame = true;
+    EXPECT_EQ(GetWindowLongPtrA(base, GWL_EXSTYLE), 264);
     dialog->resizable = true;
     EXPECT_EQ(GetWindowLongPtrA(base, GWL_STYLE) & 0x0fffffff & ~0x08000000, 0x06CF0000);
     EXPECT_EQ(dialog->maxWidth.getValue(), 0);
     EXPECT_TRUE(dialog->maxWidth.isDefault());
+}
+
+TEST_F(LuTopLevelDialogTest, dialogThatIsNotResizable_isMadeWithAThinFrameAndShows) {
+    LuTopLevelDialog* const dialog = buildDialog("TopLevelDialog { resizable FALSE DialogComponent { } }");
+    const HWND base = dialog->getBaseWidget();
+    EXPECT_EQ(GetWindowLongPtrA(base, GWL_STYLE) & 0xffffffff, 0x16C80000);
+    EXPECT_EQ(GetWindowLongPtrA(base, GWL_EXSTYLE), 256);
+    for (const LuSFInt32* limit :
+         {&dialog->minWidth, &dialog->minHeight, &dialog->maxWidth, &dialog->maxHeight})
+        EXPECT_TRUE(limit->isDefault());
+    EXPECT_EQ(dialog->minWidth.getValue(), dialog->width.getValue());
+    EXPECT_EQ(dialog->maxHeight.getValue(), dialog->height.getValue());
+}
+
+TEST_F(LuTopLevelDialogTest, dialogThatIsNoLongerResizable_hasTheLimitsOfItsChildren) {
+    LuTopLevelDialog* const dialog = buildDialog("TopLevelDialog { DialogComponent { maxHeight 90 } }");
+    dialog->resizable = false;
+    EXPECT_EQ(GetWindowLongPtrA(dialog->getBaseWidget(), GWL_STYLE) & 0xffffffff, 0x16C80000);
+    EXPECT_EQ(dialog->minWidth.getValue(), 25);
+    EXPECT_EQ(dialog->minHeight.getValue(), 25);
+    EXPECT_EQ(dialog->maxWidth.getValue(), 0);
+    EXPECT_EQ(dialog->maxHeight.getValue(), 90);
+    EXPECT_TRUE(IsWindowVisible(dialog->getBaseWidget()));
+}
+
+TEST_F(LuTopLevelDialogTest, sizesSetAfterTheBuild_areTheUsers) {
+    LuTopLevelDialog* const dialog = buildDialog(s_oneChild);
+    dialog->width = 400;
+    dialog->height = 300;
+    dialog->minHeight = 70;
+    LuSizes user;
+    dialog->getDefaultState(user.size, user.minSize, user.maxSize);
+    EXPECT_EQ(user.size, LvVec2i32(400, 300));
+    EXPECT_EQ(user.minSize.y, 70);
+    EXPECT_EQ(user.maxSize.x, LuSizes::UNLIMITED);
+}
+
+TEST_F(LuTopLevelDialogTest, marginAndSpacingSetAfterTheBuild_waitForTheNextLayout) {
+    LuTopLevelDialog* const dialog =
+        buildDialog("TopLevelDialog { DialogComponent { } DialogComponent { fixedHeight TRUE } }");
+    auto* const last = static_cast<LuDialogComponent*>(dialog->getChild(1));
+    const LvVec2i32 before = getCorner(last->getWidget());
+    dialog->margin = 6;
+    dialog->rowSpacing = 2;
+    EXPECT_EQ(getCorner(last->getWidget()), before);
+    dialog->updateChildren();
+    EXPECT_EQ(getCorner(last->getWidget()).x, 6);
+}
+
+TEST_F(LuTopLevelDialogTest, positionAtTheOrigin_isNotWritten) {
+    LuTopLevelDialog* const dialog = buildDialog("TopLevelDialog { position 60 70 DialogComponent { } }");
+    EXPECT_FALSE(dialog->position.isDefault());
+    dialog->setPosition({0, 0});
+    EXPECT_TRUE(dialog->position.isDefault());
+    EXPECT_EQ(getCorner(dialog->getBaseWidget()), LvVec2i32(60, 70));
+}
+
+TEST_F(LuTopLevelDialogTest, moveOfTheBaseWindow_isToldByItsSizeOnly) {
+    LuTopLevelDialog* const dialog = buildDialog("TopLevelDialog { position 60 70 DialogComponent { } }");
+    SendMessageA(dialog->getBaseWidget(), WM_MOVE, 0, MAKELPARAM(100, 100));
+    EXPECT_EQ(dialog->position.getValue(), LvVec2i32(60, 70));
+}
+
+TEST_F(LuTopLevelDialogTest, minimisedWindow_keepsItsLayout) {
+    LuTopLevelDialog* const dialog =
+        buildDialog("TopLevelDialog { width 300 height 200 DialogComponent { } }");
+    auto* const child = static_cast<LuDialogComponent*>(dialog->getChild(0));
+    const LvVec2i32 before = getExtent(child->getWidget());
+    dialog->margin = 10;
+    SendMessageA(dialog->getWidget(), WM_SIZE, SIZE_MINIMIZED, 0);
+    EXPECT_EQ(getExtent(child->getWidget()), before);
+    SendMessageA(dialog->getWidget(), WM_SIZE, SIZE_RESTORED, 0);
+    EXPECT_EQ(getExtent(child->getWidget()).x, before.x - 20);
+}
+
+TEST_F(LuTopLevelDialogTest, embeddedDialog_leavesShowingToTheApplication) {
+    const HWND window = CreateWindowExA(0, "STATIC", "", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200, nullptr,
+                                        nullptr, LuWin::getInstance(), nullptr);
+    LuTopLevelDialog* const dialog = read<LuTopLevelDialog>(s_oneChild);
+    dialog->buildDialog(window, 1);
+    EXPECT_EQ(GetWindowLongPtrA(window, GWL_STYLE) & 0xffffffff, 0x06CF0000);
+    EXPECT_EQ(LuWin::getWindowText(window), "Title");
+    dialog->show();
+    EXPECT_FALSE(IsWindowVisible(window));
+    ShowWindow(window, SW_SHOW);
+    dialog->hide();
+    EXPECT_TRUE(IsWindowVisible(window));
+}
+
+TEST_F(LuTopLevelDialogTest, scrollBar_startsAtZeroAfterEachLayout) {
+    LuTopLevelDialog* const dialog =
+        buildDialog("TopLevelDialog { DialogComponent { minHeight 300 minWidth 300 } }");
+    SetWindowPos(dialog->getWidget(), nullptr, 0, 0, 320, 100, SWP_NOMOVE);
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_ALL;
+    ASSERT_TRUE(GetScrollInfo(dialog->getWidget(), SB_VERT, &info));
+    EXPECT_EQ(info.nMax, 300);
+    EXPECT_EQ(info.nPage, 100u);
+    dialog->setCurrentScrolledWidget(nullptr);
+    SendMessageA(dialog->getWidget(), WM_VSCROLL, SB_LINEDOWN, 0);
+    EXPECT_EQ(GetScrollPos(dialog->getWidget(), SB_VERT), 1);
+    EXPECT_EQ(dialog->getCurrentScrolledWidget(), dialog->getWidget());
+    SetWindowPos(dialog->getWidget(), nullptr, 0, 0, 200, 100, SWP_NOMOVE);
+    ASSERT_TRUE(GetScrollInfo(dialog->getWidget(), SB_VERT, &info));
+    EXPECT_EQ(info.nPos, 0);
+    // The bar below counts in the range.
+    EXPECT_EQ(info.nMax, 300 + GetSystemMetrics(SM_CXHSCROLL));
 }
 
 TEST_F(LuTopLevelDialogTest, userSizes_comeBackOnlyWhenTheChildrenMayResizeTheWindow) {

@@ -30,7 +30,7 @@ constexpr COLORREF s_colors[] = {0xffffff, 0x956f25, 0xfa9632, 0x808080, 0xfffff
                                  0x6a6a6a, 0xe3e3e3, 0x000000, 0xffffff, 0xffffff, 0xe0e0e0, 0xfa9632,
                                  0x808080, 0xfa9630, 0xffffff};
 
-constexpr UINT linesPerNotch = 3;
+UINT s_linesPerNotch = 3;
 
 } // namespace
 
@@ -42,11 +42,15 @@ COLORREF GetSysColor(int index) {
     return index >= 0 && index < static_cast<int>(std::size(s_colors)) ? s_colors[index] : 0;
 }
 
-BOOL SystemParametersInfoA(UINT action, UINT, LPVOID data, UINT) {
+BOOL SystemParametersInfoA(UINT action, UINT parameter, LPVOID data, UINT) {
+    if (action == SPI_SETWHEELSCROLLLINES) {
+        s_linesPerNotch = parameter;
+        return TRUE;
+    }
     if (!data)
         return FALSE;
     if (action == SPI_GETWHEELSCROLLLINES) {
-        *static_cast<UINT*>(data) = linesPerNotch;
+        *static_cast<UINT*>(data) = s_linesPerNotch;
         return TRUE;
     }
     if (action == SPI_GETWORKAREA) {
