@@ -183,7 +183,7 @@ void LuChildHolder<Base, Child>::search(LuSearchAction* action) {
     }
     if (action->hasTerminated())
         endAtComponent(action->getPath());
-    else
+    else if (last >= 0)
         this->m_children.traverse(action, last, last);
 }
 

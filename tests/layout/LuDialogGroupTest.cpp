@@ -383,6 +383,17 @@ TEST_F(LuDialogGroupTest, searchForTheFirstInKits_endsItsPathAtTheComponent) {
     EXPECT_EQ(action.getPath()->getTail(), row->getChild(0));
 }
 
+TEST_F(LuDialogGroupTest, searchInAnEmptyGroup_findsNothing) {
+    const Held<OpenRow> row;
+    ASSERT_EQ(row->m_children.getLength(), 0);
+    LuBaseKit::searchingChildren = true;
+    LuSearchAction action;
+    action.setType(LuScale::getClassTypeId());
+    action.apply(row.get());
+    LuBaseKit::searchingChildren = false;
+    EXPECT_EQ(action.getPath(), nullptr);
+}
+
 TEST_F(LuDialogGroupTest, writtenGroup_isReadAgain) {
     auto* const dialog = read<LuTopLevelDialog>("TopLevelDialog { label \"A\" RowDialog { margin 3 "
                                                 "DialogComponent { width 10 } ColumnDialog { } } }");
