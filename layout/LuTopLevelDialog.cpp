@@ -133,7 +133,7 @@ void LuTopLevelDialog::getDefaultSize(LvVec2i32& size, LvVec2i32& minSize, LvVec
 
 void LuTopLevelDialog::fixSizeWithBorder(LvVec2i32& size, int sign) const {
     size.x = luAddSize(size.x, std::int64_t{sign} * 2 * m_frameX);
-    size.y = luAddSize(size.y, sign * (std::int64_t{m_titleHeight} + 2 * m_frameY));
+    size.y = luAddSize(size.y, sign * (std::int64_t{getTitleHeight()} + 2 * m_frameY));
     if (m_scrollBars.vShown || vScrollVisibility.getValue() == ALWAYS)
         size.x = luAddSize(size.x, std::int64_t{sign} * m_scrollBarWidth);
     if (m_scrollBars.hShown || hScrollVisibility.getValue() == ALWAYS)

@@ -143,6 +143,7 @@ private:
     LuTopComponent* findMenuBar() const;
     void setChildrenLabelSize();
     void setChildrenComponentSize();
+    int getTitleHeight() const;
     LvVec2i32 getInnerSize();
     void computeNewChildrenHeight(const LvVec2i32& inner);
     template <class Build>
@@ -192,7 +193,7 @@ private:
     int m_frameY = 0;
     int m_menuHeight = 0;
     int m_scrollBarWidth = 0;
-    int m_titleHeight = 0;
+    int m_titleHeight = 0; ///< 0 while no window has told it.
     std::unique_ptr<LuTopLevelAuditor> m_topAuditor;
 
     LuFieldSensor* m_marginSensor = nullptr;

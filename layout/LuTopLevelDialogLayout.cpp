@@ -9,10 +9,10 @@ constexpr int DEFAULT_TITLE_HEIGHT = 24;
 
 } // namespace
 
+int LuTopLevelDialog::getTitleHeight() const { return m_titleHeight ? m_titleHeight : DEFAULT_TITLE_HEIGHT; }
+
 /// The room for the children inside frame, title, scroll bars and menu.
 LvVec2i32 LuTopLevelDialog::getInnerSize() {
-    if (m_titleHeight == 0)
-        m_titleHeight = DEFAULT_TITLE_HEIGHT;
     LvVec2i32 size(width.getValue(), height.getValue());
     fixSizeWithBorder(size, -1);
     return size;

@@ -253,6 +253,14 @@ TEST_F(LuTopLevelDialog3DTest, changedLabel_isShown) {
     EXPECT_EQ(text->string[0], "Other");
 }
 
+TEST_F(LuTopLevelDialog3DTest, panelOfADialogWithoutAHeight_hasRoomForTheTitleAboveTheChildren) {
+    LuTopLevelDialog* const dialog =
+        buildDialog("TopLevelDialog { DialogComponent { } DialogComponent { } }");
+    EXPECT_EQ(dialog->height.getValue(), 2 * 28 + 24 + 2 * GetSystemMetrics(SM_CYFRAME));
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(static_cast<LuDialogComponent*>(dialog->getChild(i))->height.getValue(), 28);
+}
+
 TEST_F(LuTopLevelDialog3DTest, groupTraversedAlone_clearsTheFlagOfItsDialog) {
     LuTopLevelDialog* const dialog =
         read<LuTopLevelDialog>("TopLevelDialog { RowDialog { DialogComponent { } } }");
