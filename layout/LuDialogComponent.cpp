@@ -132,8 +132,9 @@ void LuDialogComponent::getDefaultState(LvVec2i32& size, LvVec2i32& minSize, LvV
 void LuDialogComponent::resetSize() {
     m_componentInitSize = {-1, -1};
     m_componentSize = m_labelSize = m_labelInitSize = {0, 0};
-    m_sizes.write(LuSizeFields::HEIGHT, 0);
-    m_sizes.write(LuSizeFields::WIDTH, 0);
+    // What the user has set goes too: the next build's sizes are computed ones, and stay out of files.
+    height.setValue(0);
+    width.setValue(0);
 }
 
 void LuDialogComponent::updateFromSensor(LuSensor* sensor) {

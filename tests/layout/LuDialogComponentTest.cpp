@@ -237,6 +237,16 @@ TEST_F(LuDialogComponentTest, resetSize_forgetsComputedSizes) {
     EXPECT_EQ(m_probe->minWidth.getValue(), 25);
 }
 
+TEST_F(LuDialogComponentTest, resetSize_forgetsTheWidthOfTheUserToo) {
+    m_probe->width = 120;
+    build(m_probe.get(), m_parent, 1);
+    m_probe->resetSize();
+    EXPECT_EQ(getUserSizes().size.x, 0);
+    build(m_probe.get(), m_parent, 1);
+    EXPECT_EQ(m_probe->width.getValue(), 200);
+    EXPECT_EQ(write(m_probe.get()).find("width"), std::string::npos);
+}
+
 TEST_F(LuDialogComponentTest, sizesThatTheLayoutWrites_areNotTakenForTheUsers) {
     m_probe->minWidth = 30;
     build(m_probe.get(), m_parent, 1);
