@@ -47,8 +47,10 @@ void LuDialogGroup::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& positio
 }
 
 void LuDialogGroup::forgetSizes() {
-    if (windowResizedByChildren.getValue())
+    if (windowResizedByChildren.getValue()) {
         m_sizes.write(m_sizes.getUserSizes());
+        setDefaultState();
+    }
     m_childSizes.clear();
     m_componentInitSize = {-1, -1};
     m_labelInitSize = m_labelSize = {0, 0};

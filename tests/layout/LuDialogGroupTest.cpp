@@ -284,6 +284,15 @@ TEST_F(LuDialogGroupTest, removeAllChildren_rebuildsTheDialogAbove) {
     EXPECT_TRUE(outer->minHeight.isDefault());
 }
 
+TEST_F(LuDialogGroupTest, noTopLevelDialogAbove_resetSizesAreNotWritten) {
+    const Held<LuRowDialog> row;
+    row->addChild(new LuDialogComponent);
+    row->minHeight = 12;
+    buildIn3D(row.get());
+    row->removeChild(0);
+    EXPECT_EQ(write(row.get()), "#Lumora V2.0 ascii\n\nRowDialog {\n    minHeight 12\n}\n");
+}
+
 TEST_F(LuDialogGroupTest, show3D_reachesTheChildren) {
     const Held<LuRowDialog> row;
     row->addChild(new LuDialogComponent);
