@@ -112,7 +112,7 @@ void LuStackDialog::update3DChildren() {
 
 void LuStackDialog::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& position, int is2D) {
     updateChildrenSizeDB();
-    const bool isFirst2D = is2D && !m_widget;
+    const bool isFirst2D = is2D && !existWidget(m_widget);
     const bool isFirst3D = !is2D && !isBuilt3D();
     LuDialogGroup::buildWidget(parent, size, position, is2D);
     if (is2D) {

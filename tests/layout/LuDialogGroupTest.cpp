@@ -327,6 +327,17 @@ TEST_F(LuDialogGroupTest, groupThatIsDisabled_disablesItsChildrenIn3D) {
     EXPECT_EQ(getPickStyle(row->getChild(1))->style.getValue(), LuPickStyle::UNPICKABLE);
 }
 
+TEST_F(LuDialogGroupTest, windowsThatTheSystemEnded_areMadeAnewWithTheStateOfTheGroup) {
+    auto* const dialog =
+        read<LuTopLevelDialog>("TopLevelDialog { RowDialog { enable FALSE DialogComponent { } } }");
+    dialog->buildDialog(nullptr, 0);
+    auto* const row = static_cast<LuRowDialog*>(dialog->getChild(0));
+    DestroyWindow(row->getWidget());
+    build(row, dialog->getWidget(), 1);
+    EXPECT_TRUE(IsWindow(row->getChild(0)->getWidget()));
+    EXPECT_FALSE(IsWindowEnabled(row->getChild(0)->getWidget()));
+}
+
 TEST_F(LuDialogGroupTest, operationsOfGenericCode_changeTheChildren) {
     const Held<OpenRow> row;
     auto* const first = new LuDialogComponent;
