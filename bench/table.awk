@@ -64,6 +64,8 @@ END {
         bound("warm box of a dialog, ns", "panelix-dialog-bbox-warm", counts[i], 1000)
     compare("warm box of a dialog, growth", "panelix-dialog-bbox-warm", 10000, "panelix-dialog-bbox-warm", 100,
         1.3)
+    compare("nearest on a ray, ns", "panelix-pick", 1000, "limit-pick", 1000, 1)
+    compare("nearest on a ray, ns", "panelix-pick", 10000, "limit-pick", 10000, 0.2)
     compare("new text of one control, growth", "panelix-set-value", 10000, "panelix-set-value", 100, 1.3)
     bound("push button before build, bytes", "panelix-heap", 10000, 2048)
     compare("windows under Wine, ns per button", "panelix-windows", 1000, "limit-windows", 1000, 1.15)

@@ -3,6 +3,45 @@
 
 #include "platform/lumora/nodes/LuNode.h"
 
+/// One apply. It keeps the place of a walk that goes on outside of it.
+class LuAction::Walk {
+public:
+    explicit Walk(LuAction& action) : m_action(action), m_isNested(action.m_isWalking) {
+        if (m_isNested) {
+            m_state = action.m_state;
+            m_path = action.m_path;
+            m_pathDepth = action.m_pathDepth;
+            m_pathCode = action.m_pathCode;
+            m_hasTerminated = action.m_hasTerminated;
+            m_steps.swap(action.m_steps);
+        }
+        action.m_isWalking = true;
+    }
+    ~Walk() {
+        m_action.m_isWalking = m_isNested;
+        m_action.m_path = m_path;
+        m_action.m_pathDepth = m_pathDepth;
+        m_action.m_pathCode = m_pathCode;
+        if (m_isNested) {
+            m_action.m_state = m_state;
+            m_action.m_hasTerminated = m_hasTerminated;
+            m_steps.swap(m_action.m_steps);
+        }
+    }
+    Walk(const Walk&) = delete;
+    Walk& operator=(const Walk&) = delete;
+
+private:
+    LuAction& m_action;
+    bool m_isNested;
+    LuTraversalState m_state;
+    const LuPath* m_path = nullptr;
+    int m_pathDepth = 0;
+    PathCode m_pathCode = PathCode::NO_PATH;
+    bool m_hasTerminated = false;
+    std::vector<Step> m_steps;
+};
+
 void LuAction::start() {
     m_state = {};
     m_hasTerminated = false;
@@ -14,14 +53,17 @@ void LuAction::apply(LuNode* node) {
     if (!node)
         return;
     node->ref();
-    m_path = nullptr;
-    m_pathCode = PathCode::NO_PATH;
-    start();
-    if (m_keepsSteps)
-        m_steps.push_back({node, -1});
-    node->noteVisit();
-    visit(node);
-    end();
+    {
+        const Walk walk(*this);
+        m_path = nullptr;
+        m_pathCode = PathCode::NO_PATH;
+        start();
+        if (m_keepsSteps)
+            m_steps.push_back({node, -1});
+        node->noteVisit();
+        visit(node);
+        end();
+    }
     node->unref();
 }
 
@@ -30,6 +72,7 @@ void LuAction::apply(const LuPath& path) {
         return;
     // The traversal may change what the path was made from.
     const LuPath held = path;
+    const Walk walk(*this);
     m_path = &held;
     m_pathDepth = 0;
     m_pathCode = codeAt(0);
@@ -39,8 +82,6 @@ void LuAction::apply(const LuPath& path) {
     held.getHead()->noteVisit();
     visit(held.getHead());
     end();
-    m_path = nullptr;
-    m_pathCode = PathCode::NO_PATH;
 }
 
 void LuAction::apply(const LuPathList& paths) {
@@ -87,4 +128,11 @@ void LuAction::visitChild(LuNode* child, int index) {
     visit(child);
     if (m_keepsSteps)
         m_steps.pop_back();
+}
+
+LuPath LuAction::makePath(const std::vector<Step>& steps) {
+    LuPath path;
+    for (const Step& step : steps)
+        path.append(step.node, step.index);
+    return path;
 }

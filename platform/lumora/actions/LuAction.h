@@ -8,6 +8,8 @@ class LuNode;
 class LvViewportRegion;
 
 /// Walks a graph, or the part of it that matters to a path, and does something at each node.
+///
+/// What is met on the way may apply the action again; the outer walk then goes on where it was.
 class LuAction {
 public:
     /// Where the traversal stands with respect to the path it was applied to.
@@ -66,12 +68,17 @@ protected:
 
     void setTerminated() { m_hasTerminated = true; }
 
+    /// The path of steps that were kept.
+    static LuPath makePath(const std::vector<Step>& steps);
+
     /// To be set in the constructor of an action that needs getCurrentSteps.
     void keepSteps() { m_keepsSteps = true; }
 
     LuTraversalState m_state;
 
 private:
+    class Walk;
+
     void start();
     PathCode codeAt(int pathDepth) const;
     void visitChild(LuNode* child, int index);
@@ -81,6 +88,7 @@ private:
     int m_nextIndex = -1;
     PathCode m_pathCode = PathCode::NO_PATH;
     bool m_hasTerminated = false;
+    bool m_isWalking = false;
     bool m_keepsSteps = false;
     std::vector<Step> m_steps;
 };

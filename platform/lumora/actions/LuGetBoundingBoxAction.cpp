@@ -12,6 +12,20 @@ void LuGetBoundingBoxAction::begin() {
     m_box.makeEmpty();
     m_separatorDepth = 0;
     m_usedDepth = std::numeric_limits<int>::max();
+    if (!m_inherited)
+        return;
+    m_state = *m_inherited;
+    m_state.model = {};
+    // All of it was set outside of what is measured.
+    m_state.fontDepth = 0;
+    m_state.coordinateDepth = 0;
+}
+
+const LvBox3f& LuGetBoundingBoxAction::measure(LuNode* node, const LuTraversalState& state) {
+    m_inherited = &state;
+    apply(node);
+    m_inherited = nullptr;
+    return m_box;
 }
 
 void LuGetBoundingBoxAction::extendBy(const LvBox3f& box) {

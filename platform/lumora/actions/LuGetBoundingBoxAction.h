@@ -16,6 +16,10 @@ public:
     const LvBox3f& getBoundingBox() const { return m_box; }
     const LvViewportRegion& getViewportRegion() const { return m_region; }
 
+    /// The box of a node in its own space, with what a traversal in `state` has inherited: for an action that
+    /// stands at the node.
+    const LvBox3f& measure(LuNode* node, const LuTraversalState& state);
+
     /// A shape adds its box, given in the current space.
     void extendBy(const LvBox3f& box);
 
@@ -54,6 +58,7 @@ private:
     void leaveSeparator(const Saved& saved, LuBoundingBoxCache* cache);
 
     LvViewportRegion m_region;
+    const LuTraversalState* m_inherited = nullptr;
     LvBox3f m_box;
     int m_separatorDepth = 0;
     int m_usedDepth = 0; ///< Depth of the outermost inherited setting that the current content used.

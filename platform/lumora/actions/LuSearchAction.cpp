@@ -3,17 +3,6 @@
 
 #include "platform/lumora/nodes/LuNode.h"
 
-namespace {
-
-LuPath makePath(const std::vector<LuAction::Step>& steps) {
-    LuPath path;
-    for (const LuAction::Step& step : steps)
-        path.append(step.node, step.index);
-    return path;
-}
-
-} // namespace
-
 void LuSearchAction::setType(LuType type, bool derivedOk) {
     m_type = type;
     m_derivedOk = derivedOk;

@@ -4,6 +4,7 @@
 #include "platform/lumora/io/LuInput.h"
 #include "platform/lumora/kits/LuDragger.h"
 #include "platform/lumora/nodes/LuCamera.h"
+#include "platform/lumora/nodes/LuEventCallback.h"
 #include "platform/lumora/nodes/LuGroup.h"
 #include "platform/lumora/nodes/LuProperties.h"
 #include "platform/lumora/nodes/LuText3.h"
@@ -37,6 +38,7 @@ void registerClasses() {
     LuFont::initClass();
     LuCoordinate3::initClass();
     LuClipPlane::initClass();
+    LuEventCallback::initClass();
     LuCamera::initClass();
     LuPerspectiveCamera::initClass();
     LuOrthographicCamera::initClass();

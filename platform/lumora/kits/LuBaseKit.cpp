@@ -3,8 +3,11 @@
 
 #include "platform/lumora/actions/LuGetBoundingBoxAction.h"
 #include "platform/lumora/actions/LuGetMatrixAction.h"
+#include "platform/lumora/actions/LuHandleEventAction.h"
+#include "platform/lumora/actions/LuRayPickAction.h"
 #include "platform/lumora/actions/LuSearchAction.h"
 #include "platform/lumora/base/LuDebugError.h"
+#include "platform/lumora/kits/LuNodeKitDetail.h"
 
 bool LuBaseKit::searchingChildren = false;
 
@@ -141,6 +144,53 @@ void LuBaseKit::getBoundingBox(LuGetBoundingBoxAction* action) {
 void LuBaseKit::getMatrix(LuGetMatrixAction* action) {
     if (action->getPathCode() == LuAction::PathCode::IN_PATH)
         doAction(action);
+}
+
+void LuBaseKit::pickContent(LuRayPickAction* action) {
+    // A single part is a separator and keeps the box itself.
+    if (m_children.getLength() > 1)
+        action->traverseCulled(this, m_boxCache, [&] { LuBaseKit::doAction(action); });
+    else
+        doAction(action);
+}
+
+LuNode* LuBaseKit::findPublicPart(const LuPath& path, LvName& name) const {
+    const LuNodekitCatalog& catalog = *getNodekitCatalog();
+    for (int i = path.getLength() - 1; i >= 0; --i) {
+        const LvName part = getPartString(path.getNode(i));
+        if (!part.isEmpty() && catalog.isPublic(catalog.getPartNumber(part))) {
+            name = part;
+            return path.getNode(i);
+        }
+    }
+    return nullptr;
+}
+
+void LuBaseKit::rayPick(LuRayPickAction* action) {
+    const int hitCount = action->getHitCount();
+    pickContent(action);
+    if (action->getHitCount() == hitCount)
+        return;
+    for (int i = 0; i < action->getPickedPointsListLength(); ++i) {
+        LuPickedPoint* const point = action->getUnsortedPickedPoint(i);
+        LuPath path = *point->getPath();
+        path.setNumPublic(-1);
+        if (!path.containsNode(this) || point->getDetail(this))
+            continue;
+        auto detail = std::make_unique<LuNodeKitDetail>();
+        LvName name;
+        detail->setNodeKit(this);
+        detail->setPart(findPublicPart(path, name));
+        detail->setPartName(name);
+        point->setDetail(std::move(detail), this);
+    }
+}
+
+void LuBaseKit::handleEvent(LuHandleEventAction* action) {
+    // A kit's parts set nothing beyond it.
+    const LuTraversalState saved = action->getState();
+    doAction(action);
+    action->getState() = saved;
 }
 
 void LuBaseKit::search(LuSearchAction* action) {

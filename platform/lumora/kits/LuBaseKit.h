@@ -4,6 +4,8 @@
 #include "platform/lumora/kits/LuNodekitCatalog.h"
 #include "platform/lumora/nodes/LuGroup.h"
 
+class LuPath;
+
 /// A node made of named parts. Each part is a LuSFNode field of the kit; the catalogue of the class tells
 /// which part hangs below which. A part comes into being when it, or a part below it, is first set.
 ///
@@ -42,6 +44,10 @@ public:
     void getBoundingBox(LuGetBoundingBoxAction* action) override;
     void getMatrix(LuGetMatrixAction* action) override;
     void search(LuSearchAction* action) override;
+
+    /// Adds a LuNodeKitDetail to each new point below the kit.
+    void rayPick(LuRayPickAction* action) override;
+    void handleEvent(LuHandleEventAction* action) override;
     void write(LuWriteAction* action) override;
 
     /// A node that a file gives for a part goes in by setPart.
@@ -81,6 +87,12 @@ protected:
     virtual void internalReplaceChild(int index, LuNode* newChild);
 
     void invalidateCaches() override { m_boxCache.invalidate(); }
+
+    /// Picks below the kit, unless the ray misses it.
+    void pickContent(LuRayPickAction* action);
+
+    /// The deepest public part on a way through the kit, and its name; null when there is none.
+    LuNode* findPublicPart(const LuPath& path, LvName& name) const;
 
     /// The children of the class's own in front, then the parts of the kit.
     LuChildList m_children;

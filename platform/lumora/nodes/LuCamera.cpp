@@ -2,6 +2,7 @@
 #include "platform/lumora/nodes/LuCamera.h"
 
 #include "platform/lumora/actions/LuGetBoundingBoxAction.h"
+#include "platform/lumora/actions/LuRayPickAction.h"
 
 #include <algorithm>
 #include <cmath>
@@ -42,6 +43,10 @@ LvViewVolume LuCamera::getViewVolume(float aspect) const {
 void LuCamera::doAction(LuAction* action) {
     if (const LvViewportRegion* region = action->getViewport())
         action->getState().viewVolume.set(getViewVolume(region->getAspectRatio()));
+}
+
+void LuCamera::rayPick(LuRayPickAction* action) {
+    action->look(getViewVolume(action->getViewportRegion().getAspectRatio()));
 }
 
 void LuCamera::pointAt(const LvVec3f& target) {

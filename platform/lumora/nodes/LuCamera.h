@@ -36,6 +36,7 @@ public:
     void pointAt(const LvVec3f& target);
 
     void doAction(LuAction* action) override;
+    void rayPick(LuRayPickAction* action) override;
 
 protected:
     LuCamera() = default;

@@ -3,6 +3,7 @@
 
 #include "platform/lumora/actions/LuGetBoundingBoxAction.h"
 #include "platform/lumora/actions/LuGetMatrixAction.h"
+#include "platform/lumora/actions/LuRayPickAction.h"
 #include "platform/lumora/actions/LuSearchAction.h"
 
 LU_NODE_SOURCE(LuGroup, LuNode, "Group")
@@ -44,6 +45,10 @@ void LuSeparator::doAction(LuAction* action) {
 
 void LuSeparator::getBoundingBox(LuGetBoundingBoxAction* action) {
     action->traverseCached(m_boxCache, [&] { LuGroup::doAction(action); });
+}
+
+void LuSeparator::rayPick(LuRayPickAction* action) {
+    action->traverseCulled(this, m_boxCache, [&] { LuGroup::doAction(action); });
 }
 
 LuSwitch::LuSwitch() {

@@ -54,6 +54,7 @@ class LuSeparator : public LuGroup {
     bool affectsState() const override { return false; }
     void doAction(LuAction* action) override;
     void getBoundingBox(LuGetBoundingBoxAction* action) override;
+    void rayPick(LuRayPickAction* action) override;
 
 protected:
     void invalidateCaches() override { m_boxCache.invalidate(); }

@@ -3,6 +3,8 @@
 
 #include "platform/lumora/actions/LuGetBoundingBoxAction.h"
 #include "platform/lumora/actions/LuGetMatrixAction.h"
+#include "platform/lumora/actions/LuHandleEventAction.h"
+#include "platform/lumora/actions/LuRayPickAction.h"
 #include "platform/lumora/actions/LuSearchAction.h"
 #include "platform/lumora/nodes/LuChildList.h"
 
@@ -28,6 +30,10 @@ LuFieldData** LuNode::getFieldDataPtr() {
 void LuNode::getBoundingBox(LuGetBoundingBoxAction* action) { doAction(action); }
 
 void LuNode::getMatrix(LuGetMatrixAction* action) { doAction(action); }
+
+void LuNode::rayPick(LuRayPickAction* action) { doAction(action); }
+
+void LuNode::handleEvent(LuHandleEventAction* action) { doAction(action); }
 
 void LuNode::search(LuSearchAction* action) { action->consider(this); }
 

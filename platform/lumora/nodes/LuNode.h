@@ -8,6 +8,8 @@ class LuAction;
 class LuChildList;
 class LuGetBoundingBoxAction;
 class LuGetMatrixAction;
+class LuHandleEventAction;
+class LuRayPickAction;
 class LuSearchAction;
 class LuWriteAction;
 
@@ -32,6 +34,11 @@ public:
     virtual void getMatrix(LuGetMatrixAction* action);
     virtual void search(LuSearchAction* action);
     virtual void write(LuWriteAction* action);
+    virtual void rayPick(LuRayPickAction* action);
+    virtual void handleEvent(LuHandleEventAction* action);
+
+    /// The node, which had grabbed all events, gets them no more.
+    virtual void grabEnded() {}
 
     /// True when both trees have the same types, names, field values and children.
     bool isEqual(const LuNode& other) const;

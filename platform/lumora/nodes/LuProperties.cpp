@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/lumora/nodes/LuProperties.h"
 
-#include "platform/lumora/actions/LuAction.h"
+#include "platform/lumora/actions/LuRayPickAction.h"
 
 LU_NODE_SOURCE(LuMaterial, LuNode, "Material")
 LU_NODE_SOURCE(LuBaseColor, LuNode, "BaseColor")
@@ -70,3 +70,8 @@ LuClipPlane::LuClipPlane() {
 }
 
 void LuClipPlane::doAction(LuAction*) {}
+
+void LuClipPlane::rayPick(LuRayPickAction* action) {
+    if (on.getValue())
+        action->clip(plane.getValue());
+}

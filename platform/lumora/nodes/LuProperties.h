@@ -57,4 +57,5 @@ class LuClipPlane : public LuNode {
     LuSFPlane plane;
     LuSFBool on{true};
     void doAction(LuAction* action) override;
+    void rayPick(LuRayPickAction* action) override;
 };

@@ -2,6 +2,7 @@
 #include "platform/lumora/nodes/LuShapes.h"
 
 #include "platform/lumora/actions/LuGetBoundingBoxAction.h"
+#include "platform/lumora/actions/LuRayPickAction.h"
 #include "platform/lumora/nodes/LuProperties.h"
 
 #include <cmath>
@@ -23,6 +24,25 @@ void LuShape::getBoundingBox(LuGetBoundingBoxAction* action) {
     computeBBox(action->getState(), box);
     action->extendBy(box);
     action->noteInheritedDepth(getInheritedDepth(action->getState()));
+}
+
+void LuShape::rayPick(LuRayPickAction* action) {
+    const LuTraversalState& state = action->getState();
+    const LuPickRay* const ray = action->getObjectRay();
+    if (!ray || state.pickStyle == LuPickStyle::UNPICKABLE)
+        return;
+    LuPickHit hit = action->makeHit();
+    if (state.pickStyle == LuPickStyle::BOUNDING_BOX)
+        LuShape::intersect(state, *ray, hit);
+    else
+        intersect(state, *ray, hit);
+    action->addHit(hit);
+}
+
+void LuShape::intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const {
+    LvBox3f box;
+    computeBBox(state, box);
+    luIntersectBox(ray, box, hit);
 }
 
 namespace {
@@ -55,6 +75,10 @@ void LuSphere::computeBBox(const LuTraversalState&, LvBox3f& box) const {
     box = makeCenteredBox(size, size, size);
 }
 
+void LuSphere::intersect(const LuTraversalState&, const LuPickRay& ray, LuPickHit& hit) const {
+    luIntersectSphere(ray, double{radius.getValue()}, hit);
+}
+
 LuCone::LuCone() {
     LuNodeConstructor constructor(s_class, this);
     constructor.field("bottomRadius", bottomRadius);
@@ -65,6 +89,30 @@ void LuCone::computeBBox(const LuTraversalState&, LvBox3f& box) const {
     const float size = std::abs(bottomRadius.getValue());
     box = makeCenteredBox(size, std::abs(height.getValue()) * 0.5F, size);
 }
+
+void LuCone::intersect(const LuTraversalState&, const LuPickRay& ray, LuPickHit& hit) const {
+    luIntersectCone(ray, std::abs(double{bottomRadius.getValue()}), std::abs(double{height.getValue()}), hit);
+}
+
+namespace {
+
+/// Offers where the ray meets polygons.
+void intersectPolygons(const std::vector<LuContour>& polygons, const LuPickRay& ray, LuPickHit& hit) {
+    std::vector<LvVec3f> corners;
+    for (const LuContour& polygon : polygons) {
+        LvBox3f box;
+        for (const LvVec3f& point : polygon)
+            box.extendBy(point);
+        double from = 0;
+        double to = 0;
+        if (luCrossBox(ray, box, from, to))
+            luTriangulatePolygon(polygon, corners);
+    }
+    for (std::size_t i = 0; i + 2 < corners.size(); i += 3)
+        luIntersectTriangle(ray, corners[i], corners[i + 1], corners[i + 2], hit);
+}
+
+} // namespace
 
 LuFaceSet::LuFaceSet() {
     LuNodeConstructor constructor(s_class, this);
@@ -86,6 +134,26 @@ void LuFaceSet::computeBBox(const LuTraversalState& state, LvBox3f& box) const {
     }
 }
 
+std::vector<LuContour> LuFaceSet::getPolygons(const LuTraversalState& state) const {
+    std::vector<LuContour> polygons;
+    const int available = state.coordinates ? state.coordinates->point.getNum() : 0;
+    int point = std::max(startIndex.getValue(), 0);
+    for (const int count : numVertices.getValues()) {
+        const int left = std::max(available - point, 0);
+        const int end = point + (count < 0 ? left : std::min(count, left));
+        LuContour polygon;
+        for (; point < end; ++point)
+            polygon.push_back(state.coordinates->point[point]);
+        if (polygon.size() > 2)
+            polygons.push_back(std::move(polygon));
+    }
+    return polygons;
+}
+
+void LuFaceSet::intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const {
+    intersectPolygons(getPolygons(state), ray, hit);
+}
+
 LuIndexedFaceSet::LuIndexedFaceSet() {
     LuNodeConstructor constructor(s_class, this);
     constructor.field("coordIndex", coordIndex);
@@ -100,4 +168,27 @@ void LuIndexedFaceSet::computeBBox(const LuTraversalState& state, LvBox3f& box) 
         if (index >= 0 && index < available)
             box.extendBy(state.coordinates->point[index]);
     }
+}
+
+std::vector<LuContour> LuIndexedFaceSet::getPolygons(const LuTraversalState& state) const {
+    std::vector<LuContour> polygons;
+    const int available = state.coordinates ? state.coordinates->point.getNum() : 0;
+    LuContour polygon;
+    const auto finish = [&polygons, &polygon] {
+        if (polygon.size() > 2)
+            polygons.push_back(std::move(polygon));
+        polygon = {};
+    };
+    for (const int index : coordIndex.getValues()) {
+        if (index < 0)
+            finish();
+        else if (index < available)
+            polygon.push_back(state.coordinates->point[index]);
+    }
+    finish();
+    return polygons;
+}
+
+void LuIndexedFaceSet::intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const {
+    intersectPolygons(getPolygons(state), ray, hit);
 }

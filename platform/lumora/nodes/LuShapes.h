@@ -2,10 +2,13 @@
 #pragma once
 
 #include "platform/lumora/nodes/LuNode.h"
+#include "platform/lumora/nodes/LuTriangulation.h"
 
 #include <limits>
 
+class LuPickHit;
 class LuTraversalState;
+struct LuPickRay;
 class LvBox3f;
 
 /// A node with geometry.
@@ -17,12 +20,16 @@ public:
 
     bool affectsState() const override { return false; }
     void getBoundingBox(LuGetBoundingBoxAction* action) override;
+    void rayPick(LuRayPickAction* action) override;
 
     /// The shape's exact box in its own space, with what `state` gives it; empty when there is nothing.
     virtual void computeBBox(const LuTraversalState& state, LvBox3f& box) const = 0;
 
 protected:
     LuShape() = default;
+
+    /// Offers where a ray of the shape's own space meets its surface; here that of its box.
+    virtual void intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const;
 
     /// The depth of separators at which the inherited setting that the box depends on was made; OWN when it
     /// depends on none.
@@ -49,6 +56,9 @@ class LuSphere : public LuShape {
     LuSphere();
     LuSFFloat radius{1.0F};
     void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+
+protected:
+    void intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const override;
 };
 
 /// A cone about the origin, its tip up in y.
@@ -58,6 +68,9 @@ class LuCone : public LuShape {
     LuSFFloat bottomRadius{1.0F};
     LuSFFloat height{2.0F};
     void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+
+protected:
+    void intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const override;
 };
 
 /// Polygons of consecutive points of the current LuCoordinate3.
@@ -68,7 +81,11 @@ class LuFaceSet : public LuShape {
     LuMFInt32 numVertices;   ///< Points of each polygon; -1 takes all that are left.
     void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
 
+    /// The points of each polygon that has an area.
+    std::vector<LuContour> getPolygons(const LuTraversalState& state) const;
+
 protected:
+    void intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const override;
     int getInheritedDepth(const LuTraversalState& state) const override;
 };
 
@@ -80,6 +97,10 @@ class LuIndexedFaceSet : public LuShape {
     LuMFInt32 coordIndex;
     void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
 
+    /// The points of each polygon that has an area.
+    std::vector<LuContour> getPolygons(const LuTraversalState& state) const;
+
 protected:
+    void intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const override;
     int getInheritedDepth(const LuTraversalState& state) const override;
 };

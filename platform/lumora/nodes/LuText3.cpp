@@ -2,6 +2,7 @@
 #include "platform/lumora/nodes/LuText3.h"
 
 #include "platform/fonts/LuFontFace.h"
+#include "platform/lumora/actions/LuPickRay.h"
 #include "platform/lumora/actions/LuTraversalState.h"
 #include "platform/lumora/base/LvBox3f.h"
 
@@ -11,6 +12,12 @@ namespace {
 
 /// SIDES and BACK lie this far behind the front, in z.
 constexpr float TEXT_DEPTH = 1.0F;
+
+/// Gives a flat box the depth of the parts that are shown.
+void addDepth(LvBox3f& box, int shown) {
+    box.min.z = (shown & (LuText3::SIDES | LuText3::BACK)) ? -TEXT_DEPTH : 0;
+    box.max.z = (shown & (LuText3::FRONT | LuText3::SIDES)) ? 0 : -TEXT_DEPTH;
+}
 
 const LuFontFace& findFace(const LuTraversalState& state) { return *LuFontFace::find(state.fontName.view()); }
 
@@ -60,9 +67,16 @@ void LuText3::computeBBox(const LuTraversalState& state, LvBox3f& box) const {
     box.makeEmpty();
     for (int i = 0; i < string.getNum(); ++i)
         box.extendBy(computeLineBox(state, i));
-    if (box.isEmpty())
-        return;
-    const int shown = parts.getValue();
-    box.min.z = (shown & (SIDES | BACK)) ? -TEXT_DEPTH : 0;
-    box.max.z = (shown & (FRONT | SIDES)) ? 0 : -TEXT_DEPTH;
+    if (!box.isEmpty())
+        addDepth(box, parts.getValue());
+}
+
+void LuText3::intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const {
+    for (int i = 0; i < string.getNum(); ++i) {
+        LvBox3f box = computeLineBox(state, i);
+        if (box.isEmpty())
+            continue;
+        addDepth(box, parts.getValue());
+        luIntersectBox(ray, box, hit);
+    }
 }

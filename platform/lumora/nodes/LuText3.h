@@ -25,6 +25,8 @@ class LuText3 : public LuShape {
     static float getLineWidth(const LuTraversalState& state, const LvString& line);
 
 protected:
+    /// The boxes of the lines, not the outlines: who aims at a text doesn't aim at its strokes.
+    void intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const override;
     int getInheritedDepth(const LuTraversalState& state) const override;
 
     /// Called with each line before it is measured or drawn; a subclass may show something else instead.
