@@ -6,6 +6,7 @@
 #include "platform/lumora/nodes/LuCamera.h"
 #include "platform/lumora/nodes/LuEventCallback.h"
 #include "platform/lumora/nodes/LuGroup.h"
+#include "platform/lumora/nodes/LuLights.h"
 #include "platform/lumora/nodes/LuProperties.h"
 #include "platform/lumora/nodes/LuText3.h"
 #include "platform/lumora/nodes/LuTransforms.h"
@@ -42,6 +43,8 @@ void registerClasses() {
     LuCamera::initClass();
     LuPerspectiveCamera::initClass();
     LuOrthographicCamera::initClass();
+    LuDirectionalLight::initClass();
+    LuPointLight::initClass();
     LuShape::initClass();
     LuCube::initClass();
     LuSphere::initClass();

@@ -41,6 +41,7 @@ public:
     LuChildList* getChildren() const override { return const_cast<LuChildList*>(&m_children); }
     bool affectsState() const override { return false; }
     void doAction(LuAction* action) override;
+    void GLRender(LuGLRenderAction* action) override;
     void getBoundingBox(LuGetBoundingBoxAction* action) override;
     void getMatrix(LuGetMatrixAction* action) override;
     void search(LuSearchAction* action) override;
@@ -86,7 +87,10 @@ protected:
     virtual void internalReplaceChild(LuNode* child, LuNode* newChild);
     virtual void internalReplaceChild(int index, LuNode* newChild);
 
-    void invalidateCaches() override { m_boxCache.invalidate(); }
+    void invalidateCaches() override {
+        m_boxCache.invalidate();
+        m_renderCache.invalidate();
+    }
 
     /// Picks below the kit, unless the ray misses it.
     void pickContent(LuRayPickAction* action);
@@ -102,6 +106,7 @@ private:
     int getInsertIndex(int part, const LuChildList& siblings) const;
 
     LuBoundingBoxCache m_boxCache;
+    LuRenderCache m_renderCache;
 };
 
 /// What a class of kits has once, whatever its number of instances.

@@ -139,6 +139,8 @@ LvLine LuDragger::getTrackerRay() const {
     return drag ? drag->ray : LvLine();
 }
 
+void LuDragger::GLRender(LuGLRenderAction* action) { LuInteractionKit::GLRender(action); }
+
 void LuDragger::getBoundingBox(LuGetBoundingBoxAction* action) { LuInteractionKit::getBoundingBox(action); }
 
 void LuDragger::handleEvent(LuHandleEventAction* action) {

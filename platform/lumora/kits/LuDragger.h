@@ -79,6 +79,7 @@ class LuDragger : public LuInteractionKit {
     /// The ray of the last event in the scene's space: a tracker's own, otherwise that under the pointer.
     LvLine getTrackerRay() const;
 
+    void GLRender(LuGLRenderAction* action) override;
     void getBoundingBox(LuGetBoundingBoxAction* action) override;
     void handleEvent(LuHandleEventAction* action) override;
 

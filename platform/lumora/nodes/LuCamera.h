@@ -37,6 +37,7 @@ public:
 
     void doAction(LuAction* action) override;
     void rayPick(LuRayPickAction* action) override;
+    void GLRender(LuGLRenderAction* action) override;
 
 protected:
     LuCamera() = default;

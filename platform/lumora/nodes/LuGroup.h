@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/lumora/actions/LuBoundingBoxCache.h"
+#include "platform/lumora/actions/LuRenderCache.h"
 #include "platform/lumora/nodes/LuChildList.h"
 #include "platform/lumora/nodes/LuNode.h"
 
@@ -45,7 +46,8 @@ private:
     LuChildList m_children;
 };
 
-/// A group whose children set nothing beyond it. It keeps its bounding box until something below changes.
+/// A group whose children set nothing beyond it. It keeps its bounding box, and what is drawn of it, until
+/// something below changes.
 class LuSeparator : public LuGroup {
     LU_NODE_HEADER(LuSeparator)
 
@@ -53,14 +55,21 @@ class LuSeparator : public LuGroup {
 
     bool affectsState() const override { return false; }
     void doAction(LuAction* action) override;
+    void GLRender(LuGLRenderAction* action) override;
     void getBoundingBox(LuGetBoundingBoxAction* action) override;
     void rayPick(LuRayPickAction* action) override;
 
+    const LuRenderCache& getRenderCache() const { return m_renderCache; }
+
 protected:
-    void invalidateCaches() override { m_boxCache.invalidate(); }
+    void invalidateCaches() override {
+        m_boxCache.invalidate();
+        m_renderCache.invalidate();
+    }
 
 private:
     LuBoundingBoxCache m_boxCache;
+    LuRenderCache m_renderCache;
 };
 
 /// A group that shows one child, all, or none.

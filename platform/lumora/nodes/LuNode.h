@@ -6,6 +6,7 @@
 
 class LuAction;
 class LuChildList;
+class LuGLRenderAction;
 class LuGetBoundingBoxAction;
 class LuGetMatrixAction;
 class LuHandleEventAction;
@@ -30,6 +31,7 @@ public:
     virtual bool affectsState() const { return true; }
 
     virtual void doAction(LuAction*) {}
+    virtual void GLRender(LuGLRenderAction* action);
     virtual void getBoundingBox(LuGetBoundingBoxAction* action);
     virtual void getMatrix(LuGetMatrixAction* action);
     virtual void search(LuSearchAction* action);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/lumora/base/LuChangeStamp.h"
 #include "platform/lumora/nodes/LuNode.h"
 
 /// The surface of the shapes after it, lit by lights.
@@ -14,6 +15,7 @@ class LuMaterial : public LuNode {
     LuMFFloat shininess;     ///< Default 0.2.
     LuMFFloat transparency;  ///< Default 0.
     void doAction(LuAction* action) override;
+    void GLRender(LuGLRenderAction* action) override;
 };
 
 /// The diffuse colour alone.
@@ -22,6 +24,7 @@ class LuBaseColor : public LuNode {
     LuBaseColor();
     LuMFColor rgb; ///< Default 0.8 0.8 0.8.
     void doAction(LuAction* action) override;
+    void GLRender(LuGLRenderAction* action) override;
 };
 
 /// How picks meet the shapes after it.
@@ -48,6 +51,13 @@ class LuCoordinate3 : public LuNode {
     LuCoordinate3();
     LuMFVec3f point;
     void doAction(LuAction* action) override;
+    void GLRender(LuGLRenderAction* action) override;
+
+protected:
+    void invalidateCaches() override { m_stamp.invalidate(); }
+
+private:
+    LuChangeStamp m_stamp;
 };
 
 /// Cuts away the shapes after it on the side that the plane's normal points away from.
@@ -58,4 +68,5 @@ class LuClipPlane : public LuNode {
     LuSFBool on{true};
     void doAction(LuAction* action) override;
     void rayPick(LuRayPickAction* action) override;
+    void GLRender(LuGLRenderAction* action) override;
 };

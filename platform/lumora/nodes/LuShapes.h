@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/lumora/base/LuChangeStamp.h"
 #include "platform/lumora/nodes/LuNode.h"
 #include "platform/lumora/nodes/LuTriangulation.h"
 
@@ -48,6 +49,7 @@ class LuCube : public LuShape {
     LuSFFloat height{2.0F};
     LuSFFloat depth{2.0F};
     void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+    void GLRender(LuGLRenderAction* action) override;
 };
 
 /// A ball about the origin.
@@ -56,6 +58,7 @@ class LuSphere : public LuShape {
     LuSphere();
     LuSFFloat radius{1.0F};
     void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+    void GLRender(LuGLRenderAction* action) override;
 
 protected:
     void intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const override;
@@ -68,6 +71,7 @@ class LuCone : public LuShape {
     LuSFFloat bottomRadius{1.0F};
     LuSFFloat height{2.0F};
     void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+    void GLRender(LuGLRenderAction* action) override;
 
 protected:
     void intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const override;
@@ -80,6 +84,7 @@ class LuFaceSet : public LuShape {
     LuSFInt32 startIndex{0}; ///< The first point.
     LuMFInt32 numVertices;   ///< Points of each polygon; -1 takes all that are left.
     void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+    void GLRender(LuGLRenderAction* action) override;
 
     /// The points of each polygon that has an area.
     std::vector<LuContour> getPolygons(const LuTraversalState& state) const;
@@ -87,6 +92,10 @@ class LuFaceSet : public LuShape {
 protected:
     void intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const override;
     int getInheritedDepth(const LuTraversalState& state) const override;
+    void invalidateCaches() override { m_stamp.invalidate(); }
+
+private:
+    LuChangeStamp m_stamp;
 };
 
 /// Polygons of points of the current LuCoordinate3, by index, each ended by -1. Indices that name no point
@@ -96,6 +105,7 @@ class LuIndexedFaceSet : public LuShape {
     LuIndexedFaceSet();
     LuMFInt32 coordIndex;
     void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+    void GLRender(LuGLRenderAction* action) override;
 
     /// The points of each polygon that has an area.
     std::vector<LuContour> getPolygons(const LuTraversalState& state) const;
@@ -103,4 +113,8 @@ class LuIndexedFaceSet : public LuShape {
 protected:
     void intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const override;
     int getInheritedDepth(const LuTraversalState& state) const override;
+    void invalidateCaches() override { m_stamp.invalidate(); }
+
+private:
+    LuChangeStamp m_stamp;
 };

@@ -33,12 +33,20 @@ LuText3::LuText3() {
                           {{"LEFT", LEFT}, {"RIGHT", RIGHT}, {"CENTER", CENTER}});
 }
 
+float LuText3::getAdvance(const LuFontFace& face, std::string_view line) {
+    float advance = 0;
+    for (std::size_t position = 0; position < line.size();)
+        advance += face.getGlyphMetrics(LuUtf8::next(line, position)).advance;
+    return advance;
+}
+
+float LuText3::getJustifiedPart(float advance) const {
+    const int value = justification.getValue();
+    return value == CENTER ? advance * 0.5F : value == RIGHT ? advance : 0;
+}
+
 float LuText3::getLineWidth(const LuTraversalState& state, const LvString& line) {
-    const LuFontFace& face = findFace(state);
-    float width = 0;
-    for (std::size_t position = 0; position < line.view().size();)
-        width += face.getGlyphMetrics(LuUtf8::next(line.view(), position)).advance;
-    return width * state.fontSize;
+    return getAdvance(findFace(state), line.view()) * state.fontSize;
 }
 
 LvBox3f LuText3::computeLineBox(const LuTraversalState& state, int index) const {
@@ -56,8 +64,7 @@ LvBox3f LuText3::computeLineBox(const LuTraversalState& state, int index) const 
     }
     if (box.isEmpty())
         return box;
-    const float share = justification.getValue() == CENTER ? 0.5F : justification.getValue() == RIGHT ? 1 : 0;
-    const LvVec3f offset(-x * share, static_cast<float>(-index) * spacing.getValue(), 0);
+    const LvVec3f offset(-getJustifiedPart(x), static_cast<float>(-index) * spacing.getValue(), 0);
     return {(box.min + offset) * state.fontSize, (box.max + offset) * state.fontSize};
 }
 

@@ -4,6 +4,8 @@
 #include "platform/lumora/base/LvBox3f.h"
 #include "platform/lumora/nodes/LuShapes.h"
 
+class LuFontFace;
+
 /// Text made of the outlines of the current font's glyphs. The first line stands on y 0, each further line
 /// one font size, times `spacing`, below.
 class LuText3 : public LuShape {
@@ -20,6 +22,7 @@ class LuText3 : public LuShape {
     LuSFEnum justification{LEFT}; ///< Which point of each line stands at x 0.
 
     void computeBBox(const LuTraversalState& state, LvBox3f& box) const override;
+    void GLRender(LuGLRenderAction* action) override;
 
     /// The advance of one line in scene units.
     static float getLineWidth(const LuTraversalState& state, const LvString& line);
@@ -33,5 +36,8 @@ protected:
     virtual LvString getShownLine(int index) const { return string[index]; }
 
 private:
+    /// The advance of a line in em units, and how much of it stands left of x 0.
+    static float getAdvance(const LuFontFace& face, std::string_view line);
+    float getJustifiedPart(float advance) const;
     LvBox3f computeLineBox(const LuTraversalState& state, int index) const;
 };

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "platform/lumora/base/LuDebugError.h"
+#include "platform/lumora/gl/LuGLContext.h"
+#include "platform/lumora/gl/LuGLFunctions.h"
+
+#include <windows.h>
+
+// In this order: the first brings what the second needs.
+#include <GL/wglext.h>
+
+#include <string>
+
+namespace {
+
+/// A context in a window that never shows. Pixels of such a window are nobody's business: what is drawn goes
+/// into framebuffer objects.
+class LuWglContext : public LuGLContext {
+public:
+    ~LuWglContext() override;
+    bool open(int major, int minor);
+    bool makeCurrent() override;
+
+private:
+    static bool fail(const char* what);
+    bool openWindow();
+    bool replaceByCore(int major, int minor);
+
+    HWND m_window = nullptr;
+    HDC m_device = nullptr;
+    HGLRC m_context = nullptr;
+};
+
+/// The functions of OpenGL 1.1 are the library's, all later ones the driver's.
+LuGLFunctions::AnyFunction loadFunction(const char* name) {
+    const auto function = reinterpret_cast<LuGLFunctions::AnyFunction>(wglGetProcAddress(name));
+    // Some drivers answer with these small numbers instead of null.
+    const auto number = reinterpret_cast<INT_PTR>(function);
+    if (number < -1 || number > 3)
+        return function;
+    return reinterpret_cast<LuGLFunctions::AnyFunction>(
+        GetProcAddress(GetModuleHandleA("opengl32.dll"), name));
+}
+
+bool LuWglContext::fail(const char* what) {
+    LuDebugError::post("LuGLContext::create", "There is no OpenGL to draw with: %s (system error %lu).", what,
+                       GetLastError());
+    return false;
+}
+
+bool LuWglContext::openWindow() {
+    m_window = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
+                               GetModuleHandleA(nullptr), nullptr);
+    if (!m_window)
+        return fail("no window can be made");
+    m_device = GetDC(m_window);
+    PIXELFORMATDESCRIPTOR format{};
+    format.nSize = sizeof format;
+    format.nVersion = 1;
+    format.dwFlags = PFD_DRAW_TO_WINDOW | PFD_SUPPORT_OPENGL;
+    format.iPixelType = PFD_TYPE_RGBA;
+    format.cColorBits = 24;
+    const int number = ChoosePixelFormat(m_device, &format);
+    if (number == 0 || !SetPixelFormat(m_device, number, &format))
+        return fail("no pixel format fits");
+    return true;
+}
+
+bool LuWglContext::replaceByCore(int major, int minor) {
+    const auto createContext =
+        reinterpret_cast<PFNWGLCREATECONTEXTATTRIBSARBPROC>(loadFunction("wglCreateContextAttribsARB"));
+    if (!createContext)
+        return fail("the driver makes old contexts only");
+    const int attributes[] = {WGL_CONTEXT_MAJOR_VERSION_ARB,
+                              major,
+                              WGL_CONTEXT_MINOR_VERSION_ARB,
+                              minor,
+                              WGL_CONTEXT_PROFILE_MASK_ARB,
+                              WGL_CONTEXT_CORE_PROFILE_BIT_ARB,
+                              0};
+    const HGLRC core = createContext(m_device, nullptr, attributes);
+    if (!core) {
+        const std::string what =
+            "no core context of version " + std::to_string(major) + "." + std::to_string(minor);
+        return fail(what.c_str());
+    }
+    wglMakeCurrent(nullptr, nullptr);
+    wglDeleteContext(m_context);
+    m_context = core;
+    return true;
+}
+
+bool LuWglContext::open(int major, int minor) {
+    if (!openWindow())
+        return false;
+    m_context = wglCreateContext(m_device);
+    if (!m_context)
+        return fail("no context can be made");
+    return makeCurrent() && replaceByCore(major, minor) && makeCurrent() && m_functions->load(&loadFunction);
+}
+
+LuWglContext::~LuWglContext() {
+    if (m_context) {
+        if (wglGetCurrentContext() == m_context)
+            wglMakeCurrent(nullptr, nullptr);
+        wglDeleteContext(m_context);
+    }
+    if (m_device)
+        ReleaseDC(m_window, m_device);
+    if (m_window)
+        DestroyWindow(m_window);
+}
+
+bool LuWglContext::makeCurrent() {
+    if (wglGetCurrentContext() == m_context || wglMakeCurrent(m_device, m_context))
+        return true;
+    return fail("the context can't be made current");
+}
+
+} // namespace
+
+std::unique_ptr<LuGLContext> LuGLContext::create(int major, int minor) {
+    auto context = std::make_unique<LuWglContext>();
+    if (!context->open(major, minor))
+        return nullptr;
+    return context;
+}

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/lumora/gl/LuOffscreenRenderer.h"
+#include "platform/lumora/io/LuInput.h"
+#include "platform/lumora/nodes/LuGroup.h"
+#include "tests/host/TestHost.h"
+#include "tests/host/ToolkitTest.h"
+
+#include <string>
+
+/// A test that draws scenes and looks at the pixels.
+class GLTest : public ToolkitTest {
+protected:
+    /// A scene from text, with a reference; the test holds it.
+    LuSeparator* read(const std::string& text) {
+        LuInput input;
+        input.setBuffer(text.data(), text.size());
+        m_scenes.push_back(std::make_unique<Held<LuSeparator>>(LuDB::readAll(&input)));
+        return m_scenes.back()->get();
+    }
+
+    /// A picture of 100 by 100 pixels from the front, the origin in its middle, on black, lit from the eye.
+    LuPicture draw(LuNode* scene) {
+        m_renderer.setSize(100, 100);
+        m_renderer.lookFromFront(-50, 50);
+        LuPicture picture;
+        EXPECT_TRUE(m_renderer.render(scene, picture));
+        return picture;
+    }
+    LuPicture draw(const std::string& text) { return draw(read(text)); }
+
+    /// The pixel at a point of the scene.
+    static LuPicture::Pixel at(const LuPicture& picture, int x, int y) { return picture.at(50 + x, 49 - y); }
+
+    /// The pixel's colour, as three numbers from 0 to 255.
+    static std::string colorAt(const LuPicture& picture, int x, int y) {
+        const LuPicture::Pixel pixel = at(picture, x, y);
+        return std::to_string(pixel.red) + " " + std::to_string(pixel.green) + " " +
+               std::to_string(pixel.blue);
+    }
+
+    LuOffscreenRenderer m_renderer;
+
+private:
+    std::vector<std::unique_ptr<Held<LuSeparator>>> m_scenes;
+};
