@@ -67,6 +67,12 @@ END {
     compare("nearest on a ray, ns", "panelix-pick", 1000, "limit-pick", 1000, 1)
     compare("nearest on a ray, ns", "panelix-pick", 10000, "limit-pick", 10000, 0.2)
     compare("new text of one control, growth", "panelix-set-value", 10000, "panelix-set-value", 100, 1.3)
+    for (i = 1; i <= 3; i++)
+        bound("draw calls of a panel", "panelix-draw-calls", counts[i], 16)
+    for (i = 1; i <= 3; i++)
+        bound("refresh, unchanged, ns", "panelix-refresh-unchanged", counts[i], 1000)
+    for (i = 1; i <= 3; i++)
+        bound("refresh, one new label, ns", "panelix-refresh-changed", counts[i], 50000)
     bound("push button before build, bytes", "panelix-heap", 10000, 2048)
     compare("windows under Wine, ns per button", "panelix-windows", 1000, "limit-windows", 1000, 1.15)
     printf "\n%d missed, %d not measured\n", missed, missing

@@ -15,6 +15,9 @@ namespace {
 /// Texels in a row of each table's texture; the shaders know it.
 constexpr std::size_t ROW = 1024;
 
+/// Rows that a texture has at least: it grows by sending all of it.
+constexpr std::size_t LEAST_ROWS = 32;
+
 } // namespace
 
 /// Where the program's variables are.
@@ -61,10 +64,9 @@ bool LuGLDrawer::draw(LuDrawList& list, const LuRenderView& view) {
     if (!m_program)
         m_program = std::make_unique<Program>(m_gl);
     m_drawCalls = 0;
-    m_sentBytes = 0;
     if (!m_program->isUsable())
         return false;
-    update(list);
+    send(list);
     m_gl.UseProgram(m_program->getName());
     setUniforms(view);
     m_gl.Enable(GL_DEPTH_TEST);
@@ -79,7 +81,8 @@ bool LuGLDrawer::draw(LuDrawList& list, const LuRenderView& view) {
     return true;
 }
 
-void LuGLDrawer::update(LuDrawList& list) {
+void LuGLDrawer::send(LuDrawList& list) {
+    m_sentBytes = 0;
     const auto updateTable = [this](Table table, LuTexelTable& entries) {
         updateTexture(table, entries.getTexels(), entries.takeDirtyTexels());
     };
@@ -124,7 +127,7 @@ bool LuGLDrawer::growTexture(Texture& texture, std::size_t rows) {
         m_gl.TexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
         m_gl.TexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
     }
-    texture.rows = std::min(std::max(rows, texture.rows * 2), static_cast<std::size_t>(limit));
+    texture.rows = std::min(std::max({rows, texture.rows * 2, LEAST_ROWS}), static_cast<std::size_t>(limit));
     m_gl.TexImage2D(GL_TEXTURE_2D, 0, GL_RGBA32F, ROW, static_cast<GLsizei>(texture.rows), 0, GL_RGBA,
                     GL_FLOAT, nullptr);
     return true;

@@ -37,10 +37,13 @@ public:
     /// the caller's. False, with a message, when the driver refuses the program.
     bool draw(LuDrawList& list, const LuRenderView& view);
 
+    /// Sends what has changed in the list to the graphics card, as draw does too: for who has time before.
+    void send(LuDrawList& list);
+
     /// Calls of the last draw that draw something.
     int getDrawCalls() const { return m_drawCalls; }
 
-    /// Bytes that the last draw sent to the graphics card.
+    /// Bytes that the last draw or send sent to the graphics card.
     std::size_t getSentBytes() const { return m_sentBytes; }
 
 private:
@@ -56,7 +59,6 @@ private:
     };
     enum Table { VERTICES, RECORDS, MATERIALS, CLIP_SETS, LIGHT_SETS, NUM_TABLES };
 
-    void update(LuDrawList& list);
     void updateTexture(Table table, const std::vector<LuTexel>& texels,
                        const std::vector<LuDirtyRanges::Range>& dirty);
     bool growTexture(Texture& texture, std::size_t rows);

@@ -51,9 +51,9 @@ public:
     /// Both.
     bool render(LuNode* scene, LuPicture& picture);
 
-    /// What collects the scene, and what draws it; for figures. The drawer is null before the first picture.
+    /// What collects the scene, and what draws it; for figures. The drawer is null without OpenGL.
     LuGLRenderAction& getAction() { return m_action; }
-    const LuGLDrawer* getDrawer() const { return m_drawer.get(); }
+    LuGLDrawer* getDrawer() { return m_drawer.get(); }
 
     /// Waits until all that was asked for is drawn.
     void finish();

@@ -100,8 +100,9 @@ vec3 shine(vec3 n, vec3 toEye, vec3 toLight, vec3 diffuse, vec4 specular) {
 void main() {
     if ((look.w & 1) != 0 && gl_FrontFacing == ((look.w & 2) != 0))
         discard;
+    // Drivers give one sample to the least alpha: round to the nearest number of four.
     float coverage = getCoverage();
-    if (coverage <= 0.0)
+    if (coverage < 0.125)
         discard;
     int material = look.x * 4;
     vec4 diffuse = fetchTexel(materialTable, material);

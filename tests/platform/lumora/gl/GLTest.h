@@ -7,6 +7,8 @@
 #include "tests/host/TestHost.h"
 #include "tests/host/ToolkitTest.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
 
 /// A test that draws scenes and looks at the pixels.
@@ -38,6 +40,17 @@ protected:
         const LuPicture::Pixel pixel = at(picture, x, y);
         return std::to_string(pixel.red) + " " + std::to_string(pixel.green) + " " +
                std::to_string(pixel.blue);
+    }
+
+    /// Pixels between black and white: those of smooth edges, where all else is either.
+    static int countShades(const LuPicture& picture) {
+        return static_cast<int>(
+            std::count_if(picture.getPixels().begin(), picture.getPixels().end(),
+                          [](const LuPicture::Pixel& pixel) { return pixel.red > 20 && pixel.red < 235; }));
+    }
+    static bool isBlack(const LuPicture& picture) {
+        return std::all_of(picture.getPixels().begin(), picture.getPixels().end(),
+                           [](const LuPicture::Pixel& pixel) { return pixel == LuPicture::Pixel(); });
     }
 
     LuOffscreenRenderer m_renderer;
