@@ -47,6 +47,7 @@ TEST(LuKeyboardEventTest, KeysAreTheSymbolsOfTheWindowSystem) {
 }
 
 struct Typed {
+    const char* name;
     LuKeyboardEvent::Key key;
     bool isShifted;
     char32_t character;
@@ -60,15 +61,20 @@ TEST_P(PrintableCharacterTest, IsWhatTheKeyTypes) {
     EXPECT_EQ(event.getPrintableCharacter(), GetParam().character);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Keys, PrintableCharacterTest,
-    testing::Values(Typed{LuKeyboardEvent::A, false, U'a'}, Typed{LuKeyboardEvent::A, true, U'A'},
-                    Typed{LuKeyboardEvent::NUMBER_7, false, U'7'},
-                    Typed{LuKeyboardEvent::NUMBER_7, true, U'&'}, Typed{LuKeyboardEvent::SLASH, true, U'?'},
-                    Typed{LuKeyboardEvent::SPACE, true, U' '}, Typed{LuKeyboardEvent::PAD_4, true, U'4'},
-                    Typed{LuKeyboardEvent::PAD_DECIMAL, false, U'.'},
-                    Typed{LuKeyboardEvent::PAD_LEFT, false, 0}, Typed{LuKeyboardEvent::RETURN, false, 0},
-                    Typed{LuKeyboardEvent::F1, false, 0}, Typed{LuKeyboardEvent::ANY, false, 0}));
+INSTANTIATE_TEST_SUITE_P(Keys, PrintableCharacterTest,
+                         testing::Values(Typed{"Letter", LuKeyboardEvent::A, false, U'a'},
+                                         Typed{"CapitalLetter", LuKeyboardEvent::A, true, U'A'},
+                                         Typed{"Digit", LuKeyboardEvent::NUMBER_7, false, U'7'},
+                                         Typed{"ShiftedDigit", LuKeyboardEvent::NUMBER_7, true, U'&'},
+                                         Typed{"ShiftedSign", LuKeyboardEvent::SLASH, true, U'?'},
+                                         Typed{"ShiftedSpace", LuKeyboardEvent::SPACE, true, U' '},
+                                         Typed{"KeypadDigit", LuKeyboardEvent::PAD_4, true, U'4'},
+                                         Typed{"KeypadPoint", LuKeyboardEvent::PAD_DECIMAL, false, U'.'},
+                                         Typed{"KeypadArrow", LuKeyboardEvent::PAD_LEFT, false, 0},
+                                         Typed{"Return", LuKeyboardEvent::RETURN, false, 0},
+                                         Typed{"FunctionKey", LuKeyboardEvent::F1, false, 0},
+                                         Typed{"NoKey", LuKeyboardEvent::ANY, false, 0}),
+                         [](const auto& typed) { return typed.param.name; });
 
 TEST(LuKeyboardEventTest, WindowSystemsCharacterComesFirst) {
     LuKeyboardEvent event(LuKeyboardEvent::A);

@@ -127,10 +127,10 @@ TEST_F(EventCallbackTest, PickedPointIsWhatLiesUnderTheEvent) {
 
 TEST_F(EventCallbackTest, PickRootLimitsWhatIsPicked) {
     add(m_root.get(), ANY, 'a');
-    auto* near = new LuCube;
+    auto* inFront = new LuCube;
     auto* part = new LuSeparator;
-    near->depth.setValue(50);
-    m_root->addChild(near);
+    inFront->depth.setValue(50);
+    m_root->addChild(inFront);
     m_root->addChild(part);
     auto* cube = new LuCube;
     part->addChild(cube);
