@@ -103,7 +103,7 @@ void LuDrawList::commitPieces(LuRenderChunk& chunk, std::vector<LuNewPiece>& con
         const LuRenderRecord& record = chunk.records[piece.piece.record];
         piece.piece.record = record.entry;
         const auto list = record.isTransparent
-                              ? TRANSPARENT
+                              ? TRANSPARENT_PIECES
                               : static_cast<std::uint32_t>(LuMeshStore::getSizeClass(piece.piece.count));
         const auto place = static_cast<std::uint32_t>(chunk.pieces.size());
         std::vector<std::uint32_t>& reusable = m_reusable[list];
@@ -116,7 +116,7 @@ void LuDrawList::commitPieces(LuRenderChunk& chunk, std::vector<LuNewPiece>& con
         }
     }
     before.clear();
-    for (std::uint32_t list = 0; list <= TRANSPARENT; ++list) {
+    for (std::uint32_t list = 0; list <= TRANSPARENT_PIECES; ++list) {
         for (const std::uint32_t index : m_reusable[list])
             before.push_back({list, index});
         m_reusable[list].clear();
@@ -130,7 +130,7 @@ void LuDrawList::removePieces(std::vector<LuRenderChunk::Slot>& slots) {
               [](const auto& left, const auto& right) { return left.index > right.index; });
     for (const LuRenderChunk::Slot& slot : slots) {
         pieces[slot.list].remove(slot.index);
-        if (slot.list == TRANSPARENT)
+        if (slot.list == TRANSPARENT_PIECES)
             ++transparentChange;
     }
     slots.clear();

@@ -24,7 +24,7 @@ public:
     static constexpr std::size_t MAX_LIGHTS = 7;
 
     /// Pieces by their size classes, and behind these the transparent ones.
-    static constexpr std::uint32_t TRANSPARENT = LuMeshStore::NUM_SIZE_CLASSES;
+    static constexpr std::uint32_t TRANSPARENT_PIECES = LuMeshStore::NUM_SIZE_CLASSES;
 
     LuDrawList();
 
@@ -52,7 +52,7 @@ public:
     LuSharedTexelTable<16> lightSets;
     LuTexelTable records{4};
     LuMeshStore meshes;
-    LuPieceList pieces[TRANSPARENT + 1];
+    LuPieceList pieces[TRANSPARENT_PIECES + 1];
 
     /// Changes whenever anything transparent does.
     std::uint64_t transparentChange = 1;
@@ -63,5 +63,5 @@ private:
     void commitPieces(LuRenderChunk& chunk, std::vector<LuNewPiece>& content);
     void removePieces(std::vector<LuRenderChunk::Slot>& slots);
 
-    std::vector<std::uint32_t> m_reusable[TRANSPARENT + 1]; ///< Empty between the calls.
+    std::vector<std::uint32_t> m_reusable[TRANSPARENT_PIECES + 1]; ///< Empty between the calls.
 };

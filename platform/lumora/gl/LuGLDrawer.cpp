@@ -91,7 +91,7 @@ void LuGLDrawer::send(LuDrawList& list) {
     updateTable(MATERIALS, list.materials.getTable());
     updateTable(CLIP_SETS, list.clipSets.getTable());
     updateTable(LIGHT_SETS, list.lightSets.getTable());
-    for (std::uint32_t i = 0; i < LuDrawList::TRANSPARENT; ++i)
+    for (std::uint32_t i = 0; i < LuDrawList::TRANSPARENT_PIECES; ++i)
         updateBuffer(m_buffers[i], list.pieces[i].getPieces(), list.pieces[i].takeDirty());
 }
 
@@ -209,7 +209,7 @@ void LuGLDrawer::drawOpaque(const LuDrawList& list) {
     m_gl.DepthMask(GL_TRUE);
     // Edges made by clip planes are smoothed by it.
     m_gl.Enable(GL_SAMPLE_ALPHA_TO_COVERAGE);
-    for (std::uint32_t i = 0; i < LuDrawList::TRANSPARENT; ++i) {
+    for (std::uint32_t i = 0; i < LuDrawList::TRANSPARENT_PIECES; ++i) {
         const std::size_t count = list.pieces[i].getSize();
         if (count == 0)
             continue;
@@ -223,7 +223,7 @@ void LuGLDrawer::drawOpaque(const LuDrawList& list) {
 }
 
 void LuGLDrawer::sortTransparent(const LuDrawList& list, const LvMatrix& view) {
-    const LuPieceList& pieces = list.pieces[LuDrawList::TRANSPARENT];
+    const LuPieceList& pieces = list.pieces[LuDrawList::TRANSPARENT_PIECES];
     struct Placed {
         float depth;
         std::uint32_t index;
@@ -247,7 +247,7 @@ void LuGLDrawer::sortTransparent(const LuDrawList& list, const LvMatrix& view) {
     m_sortedView = view;
     LuDirtyRanges all;
     all.mark(0, m_sorted.size());
-    updateBuffer(m_buffers[LuDrawList::TRANSPARENT], m_sorted, all.take(m_sorted.size()));
+    updateBuffer(m_buffers[LuDrawList::TRANSPARENT_PIECES], m_sorted, all.take(m_sorted.size()));
 }
 
 void LuGLDrawer::drawTransparent(const LuDrawList& list, const LuRenderView& view) {
@@ -258,8 +258,8 @@ void LuGLDrawer::drawTransparent(const LuDrawList& list, const LuRenderView& vie
     m_gl.Enable(GL_BLEND);
     m_gl.BlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
     m_gl.DepthMask(GL_FALSE);
-    m_gl.BindVertexArray(m_buffers[LuDrawList::TRANSPARENT].array);
-    m_gl.BindBuffer(GL_ARRAY_BUFFER, m_buffers[LuDrawList::TRANSPARENT].name);
+    m_gl.BindVertexArray(m_buffers[LuDrawList::TRANSPARENT_PIECES].array);
+    m_gl.BindBuffer(GL_ARRAY_BUFFER, m_buffers[LuDrawList::TRANSPARENT_PIECES].name);
     for (std::size_t begin = 0; begin < m_sorted.size();) {
         const int sizeClass = LuMeshStore::getSizeClass(m_sorted[begin].count);
         std::size_t end = begin + 1;

@@ -74,7 +74,7 @@ private:
     const LuGLFunctions& m_gl;
     std::unique_ptr<Program> m_program;
     Texture m_textures[NUM_TABLES];
-    Buffer m_buffers[LuDrawList::TRANSPARENT + 1];
+    Buffer m_buffers[LuDrawList::TRANSPARENT_PIECES + 1];
     std::vector<LuPiece> m_sorted; ///< The transparent pieces, the farthest first.
     std::uint64_t m_sortedChange = 0;
     LvMatrix m_sortedView;
