@@ -13,18 +13,29 @@ LRESULT CALLBACK spyProcedure(HWND window, UINT message, WPARAM wParam, LPARAM l
     return CallWindowProcA(s_procedure, window, message, wParam, lParam);
 }
 
-/// Sets the user's lines for each notch of the wheel while it lives.
+/// The user's lines for each notch of the wheel, known to all dialogs while it lives. Afterwards nothing is
+/// known of the wheel, as at the start.
 class WheelLines {
 public:
-    explicit WheelLines(UINT lines) {
+    WheelLines(LuTopLevelDialog* dialog, UINT lines) : m_dialog(dialog) {
         SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &m_before, 0);
-        EXPECT_TRUE(SystemParametersInfoA(SPI_SETWHEELSCROLLLINES, lines, nullptr, 0));
+        tell(lines);
     }
     WheelLines(const WheelLines&) = delete;
     WheelLines& operator=(const WheelLines&) = delete;
-    ~WheelLines() { SystemParametersInfoA(SPI_SETWHEELSCROLLLINES, m_before, nullptr, 0); }
+    ~WheelLines() {
+        m_dialog->setCurrentScrolledWidget(m_dialog->getWidget());
+        tell(0);
+        SystemParametersInfoA(SPI_SETWHEELSCROLLLINES, m_before, nullptr, 0);
+    }
 
 private:
+    void tell(UINT lines) {
+        EXPECT_TRUE(SystemParametersInfoA(SPI_SETWHEELSCROLLLINES, lines, nullptr, 0));
+        SendMessageA(m_dialog->getBaseWidget(), WM_SETTINGCHANGE, 0, 0);
+    }
+
+    LuTopLevelDialog* m_dialog;
     UINT m_before = 0;
 };
 
@@ -211,8 +222,7 @@ TEST_F(LuTopLevelDialogTest, wheelBeforeTheSettingsAreKnown_doesNothing) {
 TEST_F(LuTopLevelDialogTest, wheel_scrollsTheLinesOfTheSystem) {
     LuTopLevelDialog* const dialog = buildDialog(s_oneChild);
     for (const UINT lines : {0u, 1u, 2u, WHEEL_PAGESCROLL}) {
-        const WheelLines setting(lines);
-        SendMessageA(dialog->getBaseWidget(), WM_SETTINGCHANGE, 0, 0);
+        const WheelLines setting(dialog, lines);
         const int expected = lines == WHEEL_PAGESCROLL ? 0 : static_cast<int>(lines);
         EXPECT_EQ(countScrolls(dialog, 120, SB_LINEUP), expected);
         EXPECT_EQ(countScrolls(dialog, -120, SB_LINEDOWN), expected);
@@ -221,8 +231,7 @@ TEST_F(LuTopLevelDialogTest, wheel_scrollsTheLinesOfTheSystem) {
 
 TEST_F(LuTopLevelDialogTest, partsOfANotch_addUp) {
     LuTopLevelDialog* const dialog = buildDialog(s_oneChild);
-    const WheelLines setting(3);
-    SendMessageA(dialog->getBaseWidget(), WM_SETTINGCHANGE, 0, 0);
+    const WheelLines setting(dialog, 3);
     EXPECT_EQ(countScrolls(dialog, 120, SB_LINEUP), 3);
     EXPECT_EQ(countScrolls(dialog, -240, SB_LINEDOWN), 6);
     EXPECT_EQ(countScrolls(dialog, 20, SB_LINEUP), 0);
@@ -231,7 +240,7 @@ TEST_F(LuTopLevelDialogTest, partsOfANotch_addUp) {
 
 TEST_F(LuTopLevelDialogTest, wheelOverAnotherScrolledWindow_isNotTheDialogs) {
     LuTopLevelDialog* const dialog = buildDialog(s_oneChild);
-    SendMessageA(dialog->getBaseWidget(), WM_SETTINGCHANGE, 0, 0);
+    const WheelLines setting(dialog, 3);
     dialog->setCurrentScrolledWidget(nullptr);
     EXPECT_EQ(countScrolls(dialog, 120, SB_LINEUP), 0);
 }
