@@ -22,10 +22,8 @@ else()
     find_package(OpenGL REQUIRED COMPONENTS OpenGL EGL)
     find_package(Freetype REQUIRED)
     find_package(Fontconfig REQUIRED)
-    find_package(glfw3 REQUIRED)
     target_link_libraries(panelix-platform INTERFACE
-        OpenGL::OpenGL OpenGL::EGL OpenGL::GLU Freetype::Freetype Fontconfig::Fontconfig glfw)
-    target_compile_definitions(panelix-platform INTERFACE GLFW_INCLUDE_NONE)
+        OpenGL::OpenGL OpenGL::EGL OpenGL::GLU Freetype::Freetype Fontconfig::Fontconfig)
     # For tests, fuzzers and benchmarks by FONTCONFIG_FILE: the same typefaces on both targets, Wine's.
     configure_file(${CMAKE_SOURCE_DIR}/cmake/fonts.conf.in ${CMAKE_BINARY_DIR}/fonts.conf @ONLY)
 endif()

@@ -2,6 +2,8 @@
 # The library: libpanelix on Linux, PanelixWin.dll with its import library on Windows. The folders decide what
 # belongs to which target; no source file asks.
 set(folders core auditors layout controls menus message platform/lumora)
+# Viewer.cmake's.
+set(viewerWindows "/platform/lumora/viewer/(LuViewer|glfw/|win32/)")
 set(patterns platform/*.cpp platform/fonts/*.cpp platform/win32/*.cpp)
 if(WIN32)
     set(window_system platform/win32/windows)
@@ -15,6 +17,7 @@ endif()
 list(TRANSFORM folders APPEND "/*.cpp")
 file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${folders})
 list(FILTER sources EXCLUDE REGEX ${otherContext})
+list(FILTER sources EXCLUDE REGEX ${viewerWindows})
 file(GLOB flat CONFIGURE_DEPENDS ${patterns})
 
 if(WIN32)

@@ -15,7 +15,9 @@ function(panelix_add_programs folder prefix)
         file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${home}/*.cpp)
         list(FILTER sources EXCLUDE REGEX "${otherFolder}")
         add_executable(${prefix}-${name} ${sources})
-        target_link_libraries(${prefix}-${name} PRIVATE panelix panelix-options)
+        target_link_libraries(${prefix}-${name} PRIVATE panelix-viewer panelix panelix-options)
+        # One that has no viewer needs none of its libraries.
+        target_link_options(${prefix}-${name} PRIVATE LINKER:--as-needed)
     endforeach()
 endfunction()
 

@@ -10,8 +10,8 @@ file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/*Test.cpp)
 list(FILTER sources EXCLUDE REGEX "/tests/(desktop|fuzz)/")
 file(GLOB host CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/*.cpp)
 if(WIN32)
-    # What only the window system in memory offers.
-    list(FILTER sources EXCLUDE REGEX "/tests/platform/win32/memory/")
+    # What only the window system in memory offers, and what only Linux has.
+    list(FILTER sources EXCLUDE REGEX "/tests/platform/(win32/memory|lumora/viewer/glfw)/")
 else()
     file(GLOB native CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/native/*.cpp)
     list(APPEND host ${native})
@@ -22,7 +22,7 @@ list(APPEND sources ${host})
 list(REMOVE_DUPLICATES sources)
 
 add_executable(panelix-tests ${sources})
-target_link_libraries(panelix-tests PRIVATE panelix panelix-options GTest::gtest GTest::gmock)
+target_link_libraries(panelix-tests PRIVATE panelix-viewer panelix panelix-options GTest::gtest GTest::gmock)
 set_property(SOURCE ${host} APPEND PROPERTY COMPILE_DEFINITIONS
     PANELIX_TEST_FONTS="${CMAKE_BINARY_DIR}/fonts.conf" PANELIX_TEST_OUTPUT="${CMAKE_BINARY_DIR}/test-output")
 
@@ -34,12 +34,15 @@ gtest_discover_tests(panelix-tests
     WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
     PROPERTIES TIMEOUT 120)
 
-# tests/desktop/X.cpp becomes the program desktop-X, which a desktop test starts beside the one that it tests.
+# tests/desktop/X.cpp becomes the program desktop-X, which a desktop test starts; those in windows/ on Windows only.
+file(GLOB helpers CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/desktop/*.cpp)
 if(WIN32)
-    file(GLOB helpers CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/desktop/*.cpp)
-    foreach(helper IN LISTS helpers)
-        cmake_path(GET helper STEM name)
-        add_executable(desktop-${name} ${helper})
-        target_link_libraries(desktop-${name} PRIVATE panelix-options)
-    endforeach()
+    file(GLOB windowsHelpers CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/desktop/windows/*.cpp)
+    list(APPEND helpers ${windowsHelpers})
 endif()
+foreach(helper IN LISTS helpers)
+    cmake_path(GET helper STEM name)
+    add_executable(desktop-${name} ${helper})
+    target_link_libraries(desktop-${name} PRIVATE panelix-viewer panelix panelix-options)
+    target_link_options(desktop-${name} PRIVATE LINKER:--as-needed)
+endforeach()

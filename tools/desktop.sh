@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
-# To be sourced: runs Windows programs and drives them with mouse and keyboard, as a person at the display would.
+# To be sourced: runs programs, Windows ones unless told otherwise, and drives them with mouse and keyboard, as a person at the display would.
 # Needs a display in DISPLAY, and Wine's server running. Every wait has an end: what does not come is an error.
 set -euo pipefail
 
@@ -36,13 +36,16 @@ wait_until() {
 program_pid=
 window=
 
+# What runs a program: wine, or nothing for a program of this system.
+runner=wine
+
 # start_program OUTPUT TITLE PROGRAM [ARGUMENT...]: starts it, its lines going to the file OUTPUT, and waits for
 # its window, which the other operations then work on.
 start_program() {
     local output=$1 title=$2
     shift 2
     : >"$output"
-    wine "$@" </dev/null >"$output" 2>&1 &
+    ${runner:+"$runner"} "$@" </dev/null >"$output" 2>&1 &
     program_pid=$!
     wait_until has_window_or_ended "$title" || true
     [ -n "$window" ] || {
@@ -149,17 +152,28 @@ press_key() {
 drag_corner() {
     local width height
     read -r width height < <(get_size)
-    timeout 5 xdotool mousemove --window "$window" $((width - 2)) $((height - 2))
+    drag $((width - 2)) $((height - 2)) "$1" "$2"
+}
+
+# drag X Y DX DY [BUTTON]: from a place in the window, in steps as a hand does.
+drag() {
+    timeout 5 xdotool mousemove --window "$window" "$1" "$2"
     settle
-    timeout 5 xdotool mousedown 1
+    timeout 5 xdotool mousedown "${5:-1}"
     settle
     for _ in 1 2 3 4; do
-        timeout 5 xdotool mousemove_relative -- $(($1 / 4)) $(($2 / 4))
+        timeout 5 xdotool mousemove_relative -- $(($3 / 4)) $(($4 / 4))
         sleep 0.1
     done
-    timeout 5 xdotool mouseup 1
+    timeout 5 xdotool mouseup "${5:-1}"
     settle
     settle
+}
+
+# get_pixel X Y: red, green and blue of a pixel of the window, each from 0 to 255.
+get_pixel() {
+    timeout 20 xwd -silent -id "$window" | xwdtopnm -quiet | pamcut -left "$1" -top "$2" -width 1 -height 1 |
+        pnmtoplainpnm | tail -n 1 | xargs
 }
 
 # take_picture FILE.png: of the window.

@@ -68,11 +68,22 @@ void LuGLFramebuffer::begin(const LvColor& background) {
     m_gl.Clear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
 }
 
-LuPicture LuGLFramebuffer::read() {
+void LuGLFramebuffer::resolve() {
     m_gl.BindFramebuffer(GL_READ_FRAMEBUFFER, m_drawn);
     m_gl.BindFramebuffer(GL_DRAW_FRAMEBUFFER, m_resolved);
     m_gl.BlitFramebuffer(0, 0, m_width, m_height, 0, 0, m_width, m_height, GL_COLOR_BUFFER_BIT, GL_NEAREST);
     m_gl.BindFramebuffer(GL_READ_FRAMEBUFFER, m_resolved);
+}
+
+void LuGLFramebuffer::copyToWindow() {
+    // In two steps: samples are put together only between formats that are alike, and the window has its own.
+    resolve();
+    m_gl.BindFramebuffer(GL_DRAW_FRAMEBUFFER, 0);
+    m_gl.BlitFramebuffer(0, 0, m_width, m_height, 0, 0, m_width, m_height, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+}
+
+LuPicture LuGLFramebuffer::read() {
+    resolve();
     LuPicture picture(m_width, m_height);
     m_gl.PixelStorei(GL_PACK_ALIGNMENT, 1);
     m_gl.ReadPixels(0, 0, m_width, m_height, GL_RGBA, GL_UNSIGNED_BYTE, picture.getPixels().data());

@@ -29,8 +29,12 @@ public:
     /// The picture drawn, its samples put together.
     LuPicture read();
 
+    /// Copies it to the lower left corner of the context's window.
+    void copyToWindow();
+
 private:
     void clear();
+    void resolve();
     bool makeTarget(unsigned& framebuffer, unsigned& color, int samples);
 
     const LuGLFunctions& m_gl;

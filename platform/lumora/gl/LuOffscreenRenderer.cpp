@@ -80,6 +80,11 @@ bool LuOffscreenRenderer::render(LuNode* scene, LuPicture& picture) {
     return isDrawn;
 }
 
+void LuOffscreenRenderer::copyToWindow() {
+    if (m_isDrawn && m_context->makeCurrent())
+        m_framebuffer->copyToWindow();
+}
+
 void LuOffscreenRenderer::finish() {
     if (m_context && m_context->makeCurrent())
         m_context->getFunctions().Finish();

@@ -51,6 +51,9 @@ public:
     /// Both.
     bool render(LuNode* scene, LuPicture& picture);
 
+    /// Copies what was drawn last to the window of the context that was given, if that has one.
+    void copyToWindow();
+
     /// What collects the scene, and what draws it; for figures. The drawer is null without OpenGL.
     LuGLRenderAction& getAction() { return m_action; }
     LuGLDrawer* getDrawer() { return m_drawer.get(); }

@@ -3,6 +3,7 @@
 
 #include "platform/lumora/base/LuBase.h"
 #include "platform/lumora/fields/LuField.h"
+#include "platform/lumora/sensors/LuSensorQueue.h"
 
 #include <algorithm>
 #include <utility>
@@ -69,6 +70,8 @@ void LuDelayQueueSensor::processQueue() {
     }
     s_running = nullptr;
 }
+
+bool LuSensorQueue::isEmpty() { return getQueue().empty(); }
 
 void LuDataSensor::notify(const LuNotification& notification) {
     m_triggerNode = notification.origin;

@@ -1,34 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include "platform/lumora/gl/wgl/LuWglContext.h"
+
 #include "platform/lumora/base/LuDebugError.h"
-#include "platform/lumora/gl/LuGLContext.h"
 #include "platform/lumora/gl/LuGLFunctions.h"
 
-#include <windows.h>
-
-// In this order: the first brings what the second needs.
 #include <GL/wglext.h>
 
 #include <string>
 
 namespace {
-
-/// A context in a window that never shows. Pixels of such a window are nobody's business: what is drawn goes
-/// into framebuffer objects.
-class LuWglContext : public LuGLContext {
-public:
-    ~LuWglContext() override;
-    bool open(int major, int minor);
-    bool makeCurrent() override;
-
-private:
-    static bool fail(const char* what);
-    bool openWindow();
-    bool replaceByCore(int major, int minor);
-
-    HWND m_window = nullptr;
-    HDC m_device = nullptr;
-    HGLRC m_context = nullptr;
-};
 
 /// The functions of OpenGL 1.1 are the library's, all later ones the driver's.
 LuGLFunctions::AnyFunction loadFunction(const char* name) {
@@ -41,22 +21,20 @@ LuGLFunctions::AnyFunction loadFunction(const char* name) {
         GetProcAddress(GetModuleHandleA("opengl32.dll"), name));
 }
 
+} // namespace
+
 bool LuWglContext::fail(const char* what) {
     LuDebugError::post("LuGLContext::create", "There is no OpenGL to draw with: %s (system error %lu).", what,
                        GetLastError());
     return false;
 }
 
-bool LuWglContext::openWindow() {
-    m_window = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
-                               GetModuleHandleA(nullptr), nullptr);
-    if (!m_window)
-        return fail("no window can be made");
+bool LuWglContext::setPixelFormat(DWORD flags) {
     m_device = GetDC(m_window);
     PIXELFORMATDESCRIPTOR format{};
     format.nSize = sizeof format;
     format.nVersion = 1;
-    format.dwFlags = PFD_DRAW_TO_WINDOW | PFD_SUPPORT_OPENGL;
+    format.dwFlags = PFD_DRAW_TO_WINDOW | PFD_SUPPORT_OPENGL | flags;
     format.iPixelType = PFD_TYPE_RGBA;
     format.cColorBits = 24;
     const int number = ChoosePixelFormat(m_device, &format);
@@ -89,8 +67,11 @@ bool LuWglContext::replaceByCore(int major, int minor) {
     return true;
 }
 
-bool LuWglContext::open(int major, int minor) {
-    if (!openWindow())
+bool LuWglContext::open(HWND window, DWORD flags, int major, int minor) {
+    m_window = window;
+    if (!m_window)
+        return fail("no window can be made");
+    if (!setPixelFormat(flags))
         return false;
     m_context = wglCreateContext(m_device);
     if (!m_context)
@@ -116,11 +97,15 @@ bool LuWglContext::makeCurrent() {
     return fail("the context can't be made current");
 }
 
-} // namespace
+void LuWglContext::swapBuffers() { SwapBuffers(m_device); }
 
 std::unique_ptr<LuGLContext> LuGLContext::create(int major, int minor) {
+    // In a window that never shows. Pixels of such a window are nobody's business: what is drawn goes into
+    // framebuffer objects.
+    const HWND window = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
+                                        GetModuleHandleA(nullptr), nullptr);
     auto context = std::make_unique<LuWglContext>();
-    if (!context->open(major, minor))
+    if (!context->open(window, 0, major, minor))
         return nullptr;
     return context;
 }
