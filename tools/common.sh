@@ -1,10 +1,12 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
-# To be sourced by the scripts at the root: packages, builds, a display, Wine; and nothing of it left at the end.
+# To be sourced by the scripts at the root: packages, builds, Wine; and nothing of it left at the end.
 set -euo pipefail
 
 # shellcheck source=tools/environment.sh
 source "$(dirname "${BASH_SOURCE[0]}")/environment.sh"
+# shellcheck source=tools/display.sh
+source "$(dirname "${BASH_SOURCE[0]}")/display.sh"
 cd "$PANELIX_ROOT"
 
 # shellcheck disable=SC2034 # the scripts that source this use them
@@ -97,34 +99,6 @@ build() {
         say "The build of $preset failed; all of its output is in $log"
         return 1
     fi
-}
-
-# --- A display --------------------------------------------------------------------------------------------------
-
-display_pid=
-
-# Starts an X server without a screen and sets DISPLAY.
-start_display() {
-    [ -z "$display_pid" ] || return 0
-    local number=build/display.number
-    rm -f $number
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>$number >/dev/null 2>&1 9>&- &
-    display_pid=$!
-    for _ in $(seq 100); do
-        [ ! -s $number ] || break
-        sleep 0.1
-    done
-    [ -s $number ] || fail "Xvfb did not start within ten seconds."
-    DISPLAY=:$(cat $number)
-    export DISPLAY
-}
-
-stop_display() {
-    [ -n "$display_pid" ] || return 0
-    kill "$display_pid" 2>/dev/null || true
-    wait "$display_pid" 2>/dev/null || true
-    display_pid=
-    rm -f build/display.number
 }
 
 # --- Wine -------------------------------------------------------------------------------------------------------

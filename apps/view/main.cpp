@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "apps/view/EventPrinter.h"
+#include "apps/view/Screen.h"
 #include "apps/view/SkinChoice.h"
 #include "apps/view/Snapshot.h"
 #include "apps/view/TreePrinter.h"
 #include "layout/LuTopLevelDialog.h"
+#include "platform/lumora/base/LuDebugError.h"
 #include "platform/lumora/io/LuDB.h"
 #include "platform/lumora/win/LuWin.h"
 
@@ -111,6 +113,9 @@ bool loadDialogs(const Options& options, LuDialogAuditor* auditor, Dialogs& dial
         if (!component)
             return false;
         dialogs.push_back(std::make_unique<ShownDialog>(component, auditor));
+        // Without a display there are no windows; the library has said so.
+        if (!(*dialogs.back())->getBaseWidget())
+            return false;
     }
     return true;
 }
@@ -148,7 +153,7 @@ int run(const Options& options) {
     EventPrinter printer;
     Dialogs dialogs;
     if (const std::string complaint = takeSkin(options.skin); !complaint.empty()) {
-        std::fprintf(stderr, "panelix-view: %s\n", complaint.c_str());
+        LuDebugError::post("panelix-view", "%s", complaint.c_str());
         return FAULTY;
     }
     if (!loadDialogs(options, options.areEventsPrinted ? &printer : nullptr, dialogs))
@@ -157,8 +162,10 @@ int run(const Options& options) {
         printTrees(dialogs, options.tree == "json");
     else if (!options.snapshot.empty())
         return takeSnapshot(dialogs, options.snapshot) ? GOOD : FAULTY;
-    else
+    else if (isScreenThere())
         runDialogs(dialogs);
+    else
+        return FAULTY;
     return GOOD;
 }
 
@@ -166,7 +173,8 @@ int run(const Options& options) {
 
 int main(int argumentCount, char** arguments) {
     CLI::App app("Shows the dialogs of files as windows; ends when the last of them has been closed.\n"
-                 "Exit status: 0 all went well, 1 a file, the skin or the picture is at fault, 2 wrong use.");
+                 "Exit status: 0 all went well, 1 a file, the skin, the screen or the picture is at fault, 2 "
+                 "wrong use.");
     Options options;
     addOptions(app, options);
     // A path that begins with a slash is a file, not an option.

@@ -32,6 +32,19 @@ test_view_directory_isAFault() {
     expect_contains message "it is a directory" "$output"
 }
 
+test_view_withoutADisplay_isAFault() {
+    DISPLAY='' run_program panelix-view --tree "$EXAMPLE"
+    expect_equal status 1 "$status"
+    expect_contains message "Create Base Window failed" "$output"
+}
+
+test_wineRun_withoutADisplay_givesOne() {
+    local output
+    output=$(DISPLAY='' tools/wine-run "$PROGRAMS/panelix-view.exe" --tree "$EXAMPLE" 2>&1)
+    expect_contains message "there is no display" "$output"
+    expect_contains tree '      DialogPushButton "red" at 0 0 size ' "$output"
+}
+
 test_view_fileWithoutComponents_isAFault() {
     printf '%s\n' '#Lumora V2.0 ascii' 'Separator { }' >"$FOLDER/bare.lum"
     run_program panelix-view "$FOLDER/bare.lum"
