@@ -173,7 +173,7 @@ drag() {
 # get_pixel X Y: red, green and blue of a pixel of the window, each from 0 to 255.
 get_pixel() {
     timeout 20 xwd -silent -id "$window" | xwdtopnm -quiet | pamcut -left "$1" -top "$2" -width 1 -height 1 |
-        pnmtoplainpnm | tail -n 1 | xargs
+        pamdepth -quiet 255 | pnmtoplainpnm | tail -n 1 | xargs
 }
 
 # take_picture FILE.png: of the window.
