@@ -91,6 +91,7 @@ private:
     void create3DDialogPushButton();
     void update3DButton();
     void update3DLabel() { placeLabel3D(); }
+    bool isButtonPicked() const;
     static void startCB3D(void* data, LuDragger* dragger);
     static void finishCB3D(void* data, LuDragger* dragger);
 

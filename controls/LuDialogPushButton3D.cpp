@@ -85,15 +85,24 @@ void LuDialogPushButton::change3DButtonState(int isPressed) {
     undoTransformMatrix(frameSep.getValue(), m_frameTransform);
 }
 
+/// A press on the label does not operate the button.
+bool LuDialogPushButton::isButtonPicked() const { return isPicked(frameSep) || isPicked(buttonLabelSep); }
+
 void LuDialogPushButton::startCB3D(void*, LuDragger* dragger) {
-    static_cast<LuDialogPushButton*>(dragger)->draggerStartCallback3D();
+    auto* const button = static_cast<LuDialogPushButton*>(dragger);
+    if (button->isButtonPicked())
+        button->draggerStartCallback3D();
 }
 
 void LuDialogPushButton::finishCB3D(void*, LuDragger* dragger) {
-    static_cast<LuDialogPushButton*>(dragger)->draggerFinishCallback3D();
+    auto* const button = static_cast<LuDialogPushButton*>(dragger);
+    if (button->isButtonPicked())
+        button->draggerFinishCallback3D();
 }
 
 void LuDialogPushButton::draggerStartCallback3D() {
+    // The component that yields may call auditors, which may end this one.
+    const LuKeepAlive alive(this);
     set3DCurrentActive(this);
     change3DButtonState(1);
     if (m_built2D)

@@ -175,6 +175,13 @@ class LuPanelix : public LuDragger {
 protected:
     ~LuPanelix() override;
 
+    /// Whether the press that the dragger works on has hit a part, or something below it.
+    bool isPicked(const LuSFNode& part) const;
+
+    /// Lets the points that a ray has met so far speak of components: the path of each ends at its last
+    /// component, and a detail names this and the nearest public part of it that was met.
+    static void addPickDetails(LuRayPickAction* action);
+
     void addAuditor(LuAuditor* auditor);
     void removeAuditor(LuAuditor* auditor);
     LuAuditor*& getAuditor(int index);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "core/LuPanelix.h"
 
+#include "platform/lumora/actions/LuRayPickAction.h"
 #include "platform/lumora/actions/LuWriteAction.h"
+#include "platform/lumora/kits/LuNodeKitDetail.h"
 #include "platform/lumora/nodes/LuProperties.h"
 #include "platform/lumora/nodes/LuText3.h"
 #include "platform/lumora/nodes/LuTransforms.h"
@@ -56,6 +58,33 @@ void LuPanelix::change3DEnable() {
 void LuPanelix::change3DWidgetEnable(int isParentEnabled) {
     const bool isEnabled = isParentEnabled && enable.getValue();
     setLook3D(isEnabled ? LuPickStyle::SHAPE : LuPickStyle::UNPICKABLE, isEnabled);
+}
+
+bool LuPanelix::isPicked(const LuSFNode& part) const {
+    const LuPath* const path = getPickPath();
+    return path && part.getValue() && path->containsNode(part.getValue());
+}
+
+void LuPanelix::addPickDetails(LuRayPickAction* action) {
+    for (int i = 0; i < action->getPickedPointsListLength(); ++i) {
+        LuPickedPoint* const point = action->getUnsortedPickedPoint(i);
+        LuPath* const path = point->getPath();
+        int depth = path->getLength() - 1;
+        while (depth >= 0 && !path->getNode(depth)->isOfType(getClassTypeId()))
+            --depth;
+        if (depth < 0)
+            continue;
+        auto* const component = static_cast<LuPanelix*>(path->getNode(depth));
+        if (!point->getDetail(component)) {
+            auto detail = std::make_unique<LuNodeKitDetail>();
+            LvName partName;
+            detail->setNodeKit(component);
+            detail->setPart(component->findPublicPart(*path, partName));
+            detail->setPartName(partName);
+            point->setDetail(std::move(detail), component);
+        }
+        path->setNumPublic(depth + 1);
+    }
 }
 
 void LuPanelix::change3DLabel() { m_labelBBox = getUnsetBox(); }

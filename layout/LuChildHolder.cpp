@@ -2,6 +2,7 @@
 #include "layout/LuChildHolder.h"
 
 #include "layout/LuDialogComponent.h"
+#include "platform/lumora/actions/LuRayPickAction.h"
 #include "platform/lumora/actions/LuSearchAction.h"
 
 namespace {
@@ -185,6 +186,14 @@ void LuChildHolder<Base, Child>::search(LuSearchAction* action) {
         endAtComponent(action->getPath());
     else if (last >= 0)
         this->m_children.traverse(action, last, last);
+}
+
+template <class Base, class Child>
+void LuChildHolder<Base, Child>::rayPick(LuRayPickAction* action) {
+    const int hitCount = action->getHitCount();
+    this->pickContent(action);
+    if (action->getHitCount() != hitCount)
+        this->addPickDetails(action);
 }
 
 template class LuChildHolder<LuPanelix, LuTopComponent>;

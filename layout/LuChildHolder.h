@@ -61,6 +61,9 @@ public:
 
     LuChildList* getChildren() const override { return const_cast<LuChildList*>(&this->m_children); }
     void search(LuSearchAction* action) override;
+
+    /// The points met speak of components and their public parts, whatever stands below those.
+    void rayPick(LuRayPickAction* action) override;
     void write(LuWriteAction* action) override;
     bool readInstance(LuInput* in, unsigned short flags) override;
 

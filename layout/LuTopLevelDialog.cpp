@@ -3,6 +3,7 @@
 
 #include "auditors/LuTopLevelAuditor.h"
 #include "layout/LuLabelColumn.h"
+#include "platform/lumora/base/LvProjector.h"
 #include "platform/lumora/io/LuDB.h"
 
 LU_KIT_SOURCE(LuTopLevelDialog, LuPanelix, "TopLevelDialog")
@@ -190,6 +191,10 @@ void LuTopLevelDialog::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& buil
             create3DTopLevelDialog();
         update3DTopLevelDialog();
         update3DChildren();
+        if (minimized.getValue()) {
+            minimize3DDialog();
+            show3DChildren(0);
+        }
     }
     attachSensors();
 }

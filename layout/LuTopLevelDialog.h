@@ -8,6 +8,7 @@
 
 class LuScale;
 class LuTopLevelAuditor;
+class LvPlaneProjector;
 
 /// The root of a dialog: a frame window, and a panel in 3D. Its children, controls and a menu bar, are
 /// stacked from the top; their labels and controls are aligned in two common columns.
@@ -126,6 +127,13 @@ class LuTopLevelDialog : public LuChildHolder<LuPanelix, LuTopComponent> {
     void change3DLabel() override;
     void getBoundingBox(LuGetBoundingBoxAction* action) override;
 
+    /// What a press on the panel, a motion with it, and its release do. A press on the frame drags the panel
+    /// in its own plane; the release of a press on the minimise button, wherever it comes, collapses or
+    /// restores it.
+    void draggerStartCallback3D();
+    void draggerMotionCallback3D();
+    void draggerFinishCallback3D();
+
     /// What the messages of the windows do; for the window procedures.
     LRESULT handleBaseMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT handleInnerMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -173,6 +181,11 @@ private:
     void changeIndependentPosition();
     void minimize3DDialog();
     void restore3DDialog();
+    static void startCB3D(void* data, LuDragger* dragger);
+    static void motionCB3D(void* data, LuDragger* dragger);
+    static void finishCB3D(void* data, LuDragger* dragger);
+    void startDrag3D();
+    void write3DPosition(const LvVec3f& corner);
 
     LuSFNode frameSep;
     LuSFNode frame;
@@ -213,6 +226,9 @@ private:
     LuTranslation* m_labelTranslation = nullptr;
     LuText3* m_labelText = nullptr;
     LuTranslation* m_minTranslation = nullptr;
+    std::unique_ptr<LvPlaneProjector> m_projector; ///< The plane of the drag.
+    LvVec3f m_dragWorldPoint;                      ///< Where the drag is, in the scene.
+    LvVec3f m_dragStart;                           ///< The position at the start of the drag.
     float m_depth = -1.0F;
     int m_firstMinimize = 1;
 };

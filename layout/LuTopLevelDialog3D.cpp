@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "generated/LuEmbeddedSkins.h"
 #include "layout/LuTopLevelDialog.h"
+#include "platform/lumora/base/LvProjector.h"
 #include "platform/lumora/nodes/LuGroup.h"
 #include "platform/lumora/nodes/LuText3.h"
 #include "platform/lumora/nodes/LuTransforms.h"
@@ -69,6 +70,11 @@ void LuTopLevelDialog::create3DTopLevelDialog() {
     m_minTranslation = new LuTranslation;
     buttonGroup->insertChild(m_minTranslation, 0);
     setSwitchValue(minSwtch.getValue(), 0);
+
+    addStartCallback(startCB3D, nullptr);
+    addMotionCallback(motionCB3D, nullptr);
+    addFinishCallback(finishCB3D, nullptr);
+    m_projector = std::make_unique<LvPlaneProjector>();
 
     setBuilt3D(1);
     m_depth = -1.0F;
@@ -213,6 +219,8 @@ void LuTopLevelDialog::getBoundingBox(LuGetBoundingBoxAction* action) {
         LvVec2i32 noPosition;
         buildWidget(nullptr, noSize, noPosition, 0);
         show3D(isVisible);
+        if (minimized.getValue())
+            show3DChildren(0);
         enableNotify(wasEnabled);
     }
     LuDragger::getBoundingBox(action);

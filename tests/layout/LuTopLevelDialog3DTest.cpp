@@ -97,6 +97,29 @@ TEST_F(LuTopLevelDialog3DTest, minimizedByTheProgram_collapsesToAStripWhereItSta
     EXPECT_EQ(getShown(dialog->getChild(0)), LuSwitch::SHOW_NONE);
 }
 
+TEST_F(LuTopLevelDialog3DTest, minimizedFromTheStart_isBuiltAsAStrip) {
+    LuTopLevelDialog* const dialog =
+        buildDialog("TopLevelDialog { width 300 height 200 minimized TRUE position3D 10 20 5"
+                    " minimized3DPosition 70 80 0 DialogComponent { } }");
+    EXPECT_EQ(dialog->getTopLevelSize(), LvVec3f(300, 20, 1));
+    EXPECT_EQ(getTranslation(dialog, "geomSwitch"), LvVec3f(220, -90, 0));
+    EXPECT_EQ(getShown(dialog->getChild(0)), LuSwitch::SHOW_NONE);
+    dialog->minimized = false;
+    EXPECT_EQ(dialog->getTopLevelSize(), LvVec3f(300, 200, 1));
+    EXPECT_EQ(getShown(dialog->getChild(0)), LuSwitch::SHOW_ALL);
+}
+
+TEST_F(LuTopLevelDialog3DTest, childAddedToAStrip_isHiddenUntilItIsRestored) {
+    LuTopLevelDialog* const dialog = buildDialog(s_dialog);
+    dialog->minimized = true;
+    auto* const child = new LuRowDialog;
+    dialog->addChild(child);
+    EXPECT_EQ(dialog->getTopLevelSize(), LvVec3f(300, 20, 1));
+    EXPECT_EQ(getShown(child), LuSwitch::SHOW_NONE);
+    dialog->minimized = false;
+    EXPECT_EQ(getShown(child), LuSwitch::SHOW_ALL);
+}
+
 TEST_F(LuTopLevelDialog3DTest, restoredDialog_isAsBefore) {
     LuTopLevelDialog* const dialog = buildDialog(s_dialog);
     dialog->minimized = true;

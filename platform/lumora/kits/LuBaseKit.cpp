@@ -38,8 +38,13 @@ LuSFNode* LuBaseKit::getPartField(int part) const {
     return reinterpret_cast<LuSFNode*>(const_cast<char*>(field));
 }
 
+int LuBaseKit::getPartNumber(LvName part) const {
+    const LuNodekitCatalog* const catalog = getNodekitCatalog();
+    return catalog ? catalog->getPartNumber(part) : -1;
+}
+
 LuNode* LuBaseKit::getPart(LvName part, bool makeIfNeeded) {
-    const int number = getNodekitCatalog()->getPartNumber(part);
+    const int number = getPartNumber(part);
     if (number == LuNodekitCatalog::THIS_PART)
         return this;
     if (number < 0)
@@ -57,7 +62,7 @@ LuNode* LuBaseKit::makePart(int part) {
 }
 
 bool LuBaseKit::setPart(LvName part, LuNode* node) {
-    const int number = getNodekitCatalog()->getPartNumber(part);
+    const int number = getPartNumber(part);
     if (number <= LuNodekitCatalog::THIS_PART) {
         LuDebugError::post("LuBaseKit::setPart", "%s has no part named \"%s\".",
                            getTypeId().getName().getString(), part.getString());
@@ -110,10 +115,10 @@ bool LuBaseKit::setPartByNumber(int part, LuNode* node, bool isDefault) {
 }
 
 LvName LuBaseKit::getPartString(const LuNode* node) const {
-    const LuNodekitCatalog& catalog = *getNodekitCatalog();
-    for (int i = 1; node && i < catalog.getNumEntries(); ++i) {
+    const LuNodekitCatalog* const catalog = getNodekitCatalog();
+    for (int i = 1; node && catalog && i < catalog->getNumEntries(); ++i) {
         if (getPartField(i)->getValue() == node)
-            return catalog.getName(i);
+            return catalog->getName(i);
     }
     return {};
 }
@@ -155,10 +160,9 @@ void LuBaseKit::pickContent(LuRayPickAction* action) {
 }
 
 LuNode* LuBaseKit::findPublicPart(const LuPath& path, LvName& name) const {
-    const LuNodekitCatalog& catalog = *getNodekitCatalog();
     for (int i = path.getLength() - 1; i >= 0; --i) {
         const LvName part = getPartString(path.getNode(i));
-        if (!part.isEmpty() && catalog.isPublic(catalog.getPartNumber(part))) {
+        if (!part.isEmpty() && getNodekitCatalog()->isPublic(getPartNumber(part))) {
             name = part;
             return path.getNode(i);
         }

@@ -22,6 +22,7 @@ public:
     /// leaves; the application switches it.
     static bool searchingChildren;
 
+    /// Null for an instance that outlives its class.
     virtual const LuNodekitCatalog* getNodekitCatalog() const = 0;
 
     /// Whether the object's class is one of the program's own, which is true of all that there are.
@@ -66,6 +67,9 @@ protected:
     void catalogError(LvName part) const;
 
     LuSFNode* getPartField(int part) const;
+
+    /// The number of a part in the catalogue, or -1.
+    int getPartNumber(LvName part) const;
 
     /// Makes a part hold a node, with the parts above it. `isDefault` is the default flag of the field
     /// afterwards.

@@ -19,7 +19,7 @@ LuInteractionKit::LuInteractionKit() {
 
 bool LuInteractionKit::setPartAsDefault(LvName part, LvName nodeName, bool onlyIfDefault) {
     LuNode* const node = LuNode::getByName(nodeName);
-    const int number = getNodekitCatalog()->getPartNumber(part);
+    const int number = getPartNumber(part);
     if (!node || number <= LuNodekitCatalog::THIS_PART)
         return false;
     if (onlyIfDefault && !getPartField(number)->isDefault())
