@@ -12,6 +12,7 @@ LuSkin LuDialogPushButton::s_skin("DialogPushButton.lum", LuEmbeddedSkin_DialogP
 void LuDialogPushButton::create3DDialogPushButton() {
     loadFontProperties();
     s_skin.loadOnFirstUse();
+    makeParts({"labelSwitch", "frameSwitch", "buttonLabelSep"});
     setPartAsDefault("labelProp", "DialogTextProperties");
     setPartAsDefault("released", "DialogPushButtonReleased");
     setPartAsDefault("pressed", "DialogPushButtonPressed");

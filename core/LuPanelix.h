@@ -10,6 +10,8 @@
 #include "platform/lumora/sensors/LuSensor.h"
 #include "platform/win32/WindowSystem.h"
 
+#include <initializer_list>
+
 class LuAuditor;
 class LuGroup;
 class LuMaterial;
@@ -174,6 +176,10 @@ class LuPanelix : public LuDragger {
 
 protected:
     ~LuPanelix() override;
+
+    /// Makes parts, and those above them, in this order, in which their geometry is traversed. To be called
+    /// before the skin fills them: what a skin lacks would come after the rest otherwise.
+    void makeParts(std::initializer_list<const char*> parts);
 
     /// Whether the press that the dragger works on has hit a part, or something below it.
     bool isPicked(const LuSFNode& part) const;

@@ -60,6 +60,11 @@ void LuPanelix::change3DWidgetEnable(int isParentEnabled) {
     setLook3D(isEnabled ? LuPickStyle::SHAPE : LuPickStyle::UNPICKABLE, isEnabled);
 }
 
+void LuPanelix::makeParts(std::initializer_list<const char*> parts) {
+    for (const char* part : parts)
+        getPart(part, true);
+}
+
 bool LuPanelix::isPicked(const LuSFNode& part) const {
     const LuPath* const path = getPickPath();
     return path && part.getValue() && path->containsNode(part.getValue());

@@ -39,15 +39,14 @@ void disconnectFrom(LuField& field, const LuField& master) {
 void LuTopLevelDialog::create3DTopLevelDialog() {
     loadFontProperties();
     s_skin.loadOnFirstUse();
+    makeParts({"frameSep", "labelSep", "minSwtch"});
     setPartAsDefault("frame", "TopLevelDialogFrame", true);
     setPartAsDefault("labelProp", "DialogTextProperties", true);
     setPartAsDefault("minReleased", "TopLevelDialogMinReleased", true);
     setPartAsDefault("minPressed", "TopLevelDialogMinPressed", true);
 
-    // A skin without its groups leaves the parts above them to us.
-    auto* const frameGroup = static_cast<LuSeparator*>(getPart("frameSep", true));
-    auto* const labelGroup = static_cast<LuSeparator*>(getPart("labelSep", true));
-    getPart("minSwtch", true);
+    auto* const frameGroup = static_cast<LuSeparator*>(frameSep.getValue());
+    auto* const labelGroup = static_cast<LuSeparator*>(labelSep.getValue());
     auto* const buttonGroup = static_cast<LuSeparator*>(minSep.getValue());
     auto* const geometry = static_cast<LuSwitch*>(geomSwitch.getValue());
     m_frameScale = new LuScale;

@@ -290,6 +290,20 @@ TEST_F(LuDialogPushButtonTest, parts_comeFromTheSkin3D) {
     EXPECT_FALSE(m_button->isBuilt2D());
 }
 
+TEST_F(LuDialogPushButtonTest, skinWithoutTextProperties_keepsTheOrderOfTheParts3D) {
+    build3D(*m_button);
+    const Held<LuDialogPushButton> other;
+    LuNode* const properties = LuNode::getByName("DialogTextProperties");
+    properties->setName("Hidden");
+    build3D(*other);
+    properties->setName("DialogTextProperties");
+    LuGroup* const geometry = getPartAs(*other, "geomSwitch");
+    const int label = geometry->findChild(other->getPart("labelSep", false));
+    const int frame = geometry->findChild(other->getPart("frameSep", false));
+    EXPECT_LT(label, frame);
+    EXPECT_LT(frame, geometry->findChild(other->getPart("buttonLabelSep", false)));
+}
+
 TEST_F(LuDialogPushButtonTest, frame_fillsTheRoomBesideTheLabel3D) {
     buildWithColumn(0, {201, 40});
     // The middle of what lies right of 3 + 52, seen from the middle of the component.

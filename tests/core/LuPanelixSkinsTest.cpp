@@ -134,6 +134,7 @@ TEST_F(SkinTest, SkinThatLacksANameLeavesTheGroupEmpty) {
     LuPanelix::setSkin("default");
     LuPanelix::setSkin(folder);
     EXPECT_EQ(getFontSize(), 0);
+    LuPanelix::setSkin("default");
 }
 
 TEST_F(SkinTest, ReadingASkinFileKeepsTheSearchPath) {

@@ -137,6 +137,15 @@ TEST_F(LuTopLevelDialogDragTest, minimiseButtonOfAPanelThatHidesItsChildren_take
     EXPECT_FALSE(isChildShown());
 }
 
+TEST_F(LuTopLevelDialogDragTest, skinWithoutTextProperties_leavesTheMinimiseButtonInFrontOfTheFrame) {
+    LuNode* const properties = LuNode::getByName("DialogTextProperties");
+    properties->setName("Hidden");
+    show("TopLevelDialog { width 300 height 200 }");
+    properties->setName("DialogTextProperties");
+    m_scene->click(*m_dialog, "minSep");
+    EXPECT_TRUE(m_dialog->minimized.getValue());
+}
+
 // Dragging
 
 TEST_F(LuTopLevelDialogDragTest, dragOfTheFrame_movesThePanelWithTheMouse) {
