@@ -7,6 +7,11 @@ else()
     set(otherFolder "/windows/")
 endif()
 
+# What plays to dialogs as a user would; for programs and tests.
+file(GLOB play CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/apps/play/*.cpp)
+add_library(panelix-play STATIC ${play})
+target_link_libraries(panelix-play PUBLIC panelix PRIVATE panelix-options)
+
 function(panelix_add_programs folder prefix)
     file(GLOB mains CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${folder}/*/main.cpp)
     foreach(main IN LISTS mains)
@@ -15,11 +20,13 @@ function(panelix_add_programs folder prefix)
         file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${home}/*.cpp)
         list(FILTER sources EXCLUDE REGEX "${otherFolder}")
         add_executable(${prefix}-${name} ${sources})
-        target_link_libraries(${prefix}-${name} PRIVATE panelix-viewer panelix panelix-options)
+        target_link_libraries(${prefix}-${name} PRIVATE panelix-play panelix-viewer panelix panelix-options)
         # One that has no viewer needs none of its libraries.
         target_link_options(${prefix}-${name} PRIVATE LINKER:--as-needed)
     endforeach()
 endfunction()
 
+# The skins of the source tree, for who has set no other folder.
+add_compile_definitions(PANELIX_SKINS="${CMAKE_SOURCE_DIR}/data/Panelix/skins")
 panelix_add_programs(apps panelix)
 panelix_add_programs(examples example)

@@ -8,7 +8,7 @@ add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM
 
 file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/*Test.cpp)
 list(FILTER sources EXCLUDE REGEX "/tests/(desktop|fuzz)/")
-file(GLOB host CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/*.cpp)
+file(GLOB host CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/*.cpp ${CMAKE_SOURCE_DIR}/tests/twin/*.cpp)
 if(WIN32)
     # What only the window system in memory offers, and what only Linux has.
     list(FILTER sources EXCLUDE REGEX "/tests/platform/(win32/memory|lumora/viewer/glfw)/")
@@ -22,7 +22,7 @@ list(APPEND sources ${host})
 list(REMOVE_DUPLICATES sources)
 
 add_executable(panelix-tests ${sources})
-target_link_libraries(panelix-tests PRIVATE panelix-viewer panelix panelix-options GTest::gtest GTest::gmock)
+target_link_libraries(panelix-tests PRIVATE panelix-play panelix-viewer panelix panelix-options GTest::gtest GTest::gmock)
 set_property(SOURCE ${host} APPEND PROPERTY COMPILE_DEFINITIONS
     PANELIX_TEST_FONTS="${CMAKE_BINARY_DIR}/fonts.conf" PANELIX_TEST_OUTPUT="${CMAKE_BINARY_DIR}/test-output")
 

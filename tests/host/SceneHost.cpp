@@ -9,22 +9,6 @@ namespace {
 
 LvViewportRegion getRegion() { return {SceneHost::VIEWPORT, SceneHost::VIEWPORT}; }
 
-/// Extends the path, which ends above `node`, down to the target; false, with the path as before, when it
-/// isn't there.
-bool extendTo(LuPath& path, LuNode* node, int index, const LuNode* target) {
-    path.append(node, index);
-    if (node == target)
-        return true;
-    if (const LuChildList* const children = node->getChildren()) {
-        for (int i = 0; i < children->getLength(); ++i) {
-            if (extendTo(path, children->get(i), i, target))
-                return true;
-        }
-    }
-    path.truncate(path.getLength() - 1);
-    return false;
-}
-
 } // namespace
 
 SceneHost::SceneHost(LuNode* shown)
@@ -51,8 +35,8 @@ void SceneHost::show(LuNode* node) {
 LvVec3f SceneHost::getMiddle(LuBaseKit& kit, const char* part) { return getMiddle(kit.getPart(part, false)); }
 
 LvVec3f SceneHost::getMiddle(LuNode* node) {
-    LuPath path;
-    const bool isShown = node && extendTo(path, m_root.get(), -1, node);
+    const LuPath path = LuPath::find(m_root.get(), node);
+    const bool isShown = path.getLength() > 0;
     EXPECT_TRUE(isShown) << "The node is not in the scene.";
     LuGetBoundingBoxAction action(getRegion());
     if (isShown)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/lumora/actions/LuPath.h"
 
+#include "platform/lumora/nodes/LuChildList.h"
 #include "platform/lumora/nodes/LuNode.h"
 
 LuPath& LuPath::operator=(const LuPath& other) {
@@ -41,5 +42,27 @@ bool LuPath::containsNode(const LuNode* node) const {
         if (getNode(i) == node)
             return true;
     }
+    return false;
+}
+
+LuPath LuPath::find(LuNode* from, const LuNode* to) {
+    LuPath path;
+    if (from && to)
+        path.extendTo(from, -1, to);
+    return path;
+}
+
+/// Goes on from the path's end by `node`; true when the target was found at it or below. Otherwise the path is
+/// as before.
+bool LuPath::extendTo(LuNode* node, int index, const LuNode* target) {
+    append(node, index);
+    if (node == target)
+        return true;
+    const LuChildList* const children = node->getChildren();
+    for (int i = 0; children && i < children->getLength(); ++i) {
+        if (extendTo(children->get(i), i, target))
+            return true;
+    }
+    truncate(getFullLength() - 1);
     return false;
 }

@@ -11,6 +11,11 @@ class LuPath {
 public:
     LuPath() = default;
     explicit LuPath(LuNode* head) { append(head, -1); }
+
+    /// The first way down from one node to another, through the children of all nodes, kits among them, be
+    /// they shown or not. Empty when there is none.
+    static LuPath find(LuNode* from, const LuNode* to);
+
     LuPath(const LuPath& other) { *this = other; }
     LuPath& operator=(const LuPath& other);
     ~LuPath() { truncate(0); }
@@ -38,6 +43,8 @@ public:
     void setNumPublic(int count) { m_numPublic = count; }
 
 private:
+    bool extendTo(LuNode* node, int index, const LuNode* target);
+
     struct Step {
         LuNode* node;
         int index;

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "tests/twin/Twin.h"
+#include "tests/host/ComponentTest.h"
+
+namespace {
+
+constexpr const char* FRAME = "a window's frame and title are as thick as the system has them, a panel's are "
+                              "not: other room is left inside";
+
+/// What differs in every dialog.
+const std::vector<TwinDifference> FRAMES = {{".height", FRAME}, {"dialog.minHeight", FRAME}};
+
+class TwinTest : public ComponentTest {};
+
+constexpr const char* BUTTONS = R"(
+TopLevelDialog {
+    auditorID "dialog"
+    label "Twin"
+    width 400
+    height 300
+    DialogLabel { auditorID "text" label "A text" }
+    DialogSeparator { }
+    RowDialog {
+        DialogPushButton { auditorID "first" label "One" buttonLabel "First" }
+        DialogPushButton { auditorID "second" labelVisibility FALSE buttonLabel "Second" }
+        DialogPushButton { auditorID "never" buttonLabel "Never" enable FALSE }
+    }
+}
+)";
+
+TEST_F(TwinTest, pushButton_isHeardOnceForEachPressAndRelease) {
+    expectTwins(BUTTONS, "press first\nrelease\npress second\nrelease\npress first\nrelease\n", FRAMES);
+    const TwinOutcome outcome =
+        playTwin(Rendition::SCENE, BUTTONS, "press first\nrelease\npress second\nrelease\n");
+    EXPECT_EQ(outcome.calls,
+              (std::vector<std::string>{"dialogPushButton first First", "dialogPushButton second Second"}));
+}
+
+TEST_F(TwinTest, pressWithoutRelease_isNotHeard) { expectTwins(BUTTONS, "press first\n", FRAMES); }
+
+TEST_F(TwinTest, disabledButton_isNotHeard) { expectTwins(BUTTONS, "press never\nrelease\n", FRAMES); }
+
+TEST_F(TwinTest, labelAndSeparator_takeNoPress) { expectTwins(BUTTONS, "press text\nrelease\n", FRAMES); }
+
+} // namespace
