@@ -181,3 +181,9 @@ take_picture() {
     timeout 20 xwd -silent -id "$window" | xwdtopnm -quiet | pnmtopng -quiet >"$1"
     [ -s "$1" ] || desktop_error "the picture $1 could not be taken"
 }
+
+# take_screen_picture FILE.png: of all that the screen shows, without the black round it.
+take_screen_picture() {
+    timeout 20 xwd -silent -root | xwdtopnm -quiet | pnmcrop -quiet -black | pnmtopng -quiet >"$1"
+    [ -s "$1" ] || desktop_error "the picture $1 could not be taken"
+}
