@@ -13,10 +13,13 @@ void LuDialogPushButton::create3DDialogPushButton() {
     loadFontProperties();
     s_skin.loadOnFirstUse();
     makeParts({"labelSwitch", "frameSwitch", "buttonLabelSep"});
-    setPartAsDefault("labelProp", "DialogTextProperties");
-    setPartAsDefault("released", "DialogPushButtonReleased");
-    setPartAsDefault("pressed", "DialogPushButtonPressed");
-    setPartAsDefault("buttonLabelProp", "DialogTextProperties");
+    // The names are interned once and not for each button.
+    static const std::pair<LvName, LvName> SKIN_PARTS[] = {{"labelProp", "DialogTextProperties"},
+                                                           {"released", "DialogPushButtonReleased"},
+                                                           {"pressed", "DialogPushButtonPressed"},
+                                                           {"buttonLabelProp", "DialogTextProperties"}};
+    for (const auto& [part, node] : SKIN_PARTS)
+        setPartAsDefault(part, node);
 
     m_frameScale = new LuScale;
     getGroupPart("frameSep")->insertChild(m_frameScale, 0);

@@ -14,9 +14,13 @@ LuSkin LuDialogComponent::s_skin("DialogComponent.lum", LuEmbeddedSkin_DialogCom
 void LuDialogComponent::create3DDialogComponent() {
     loadFontProperties();
     s_skin.loadOnFirstUse();
-    setPartAsDefault("edgeStyleNone", "DialogComponentEdgeStyleNone", true);
-    setPartAsDefault("edgeStyleShadowIn", "DialogComponentEdgeStyleShadowIn", true);
-    setPartAsDefault("edgeStyleShadowOut", "DialogComponentEdgeStyleShadowOut", true);
+    // The names are interned once and not for each component.
+    static const std::pair<LvName, LvName> SKIN_PARTS[] = {
+        {"edgeStyleNone", "DialogComponentEdgeStyleNone"},
+        {"edgeStyleShadowIn", "DialogComponentEdgeStyleShadowIn"},
+        {"edgeStyleShadowOut", "DialogComponentEdgeStyleShadowOut"}};
+    for (const auto& [part, node] : SKIN_PARTS)
+        setPartAsDefault(part, node, true);
 
     // A skin without its groups leaves the parts above them to us.
     getPart("edgeStyleSwitch", true);
