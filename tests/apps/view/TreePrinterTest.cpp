@@ -171,7 +171,8 @@ TEST_F(TreePrinterTest, styles_areThoseOfTheWindows) {
     };
     EXPECT_EQ(tree["windows"][0]["style"].number, getStyle(frame, GWL_STYLE));
     EXPECT_EQ(tree["windows"][0]["exStyle"].number, getStyle(frame, GWL_EXSTYLE));
-    for (const Json& window : findById(tree, "yes")["windows"].items) {
+    const Json button = findById(tree, "yes");
+    for (const Json& window : button["windows"].items) {
         const auto style = static_cast<DWORD>(window["style"].number);
         EXPECT_TRUE(style & WS_CHILD) << window["class"].text;
         if (window["class"].text == "Button") {
