@@ -135,11 +135,6 @@ private:
     std::string_view m_rest;
 };
 
-const Json& getNothing() {
-    static const Json s_nothing;
-    return s_nothing;
-}
-
 } // namespace
 
 std::optional<Json> Json::parse(std::string_view text) {
@@ -149,13 +144,18 @@ std::optional<Json> Json::parse(std::string_view text) {
     return json;
 }
 
-const Json& Json::operator[](std::string_view key) const {
+const Json& Json::getNothing() {
+    static const Json s_nothing;
+    return s_nothing;
+}
+
+const Json& Json::operator[](std::string_view key) const& {
     const auto place = std::find_if(members.begin(), members.end(),
                                     [key](const auto& member) { return member.first == key; });
     return place == members.end() ? getNothing() : place->second;
 }
 
-const Json& Json::operator[](std::size_t index) const {
+const Json& Json::operator[](std::size_t index) const& {
     return index < items.size() ? items[index] : getNothing();
 }
 

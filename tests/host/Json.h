@@ -23,10 +23,16 @@ public:
     std::vector<Json> items;
     std::vector<std::pair<std::string, Json>> members; ///< In the order of the file.
 
-    /// A member of an object, an item of a list; a value of the kind NOTHING where there is none.
-    const Json& operator[](std::string_view key) const;
-    const Json& operator[](std::size_t index) const;
-    const Json& operator[](int index) const { return (*this)[static_cast<std::size_t>(index)]; }
+    /// A member of an object, an item of a list; a value of the kind NOTHING where there is none. What comes
+    /// out belongs to this value, so a temporary one gives nothing.
+    const Json& operator[](std::string_view key) const&;
+    const Json& operator[](std::size_t index) const&;
+    const Json& operator[](int index) const& { return (*this)[static_cast<std::size_t>(index)]; }
+    const Json& operator[](std::string_view key) const&& = delete;
+    const Json& operator[](std::size_t index) const&& = delete;
+    const Json& operator[](int index) const&& = delete;
+
+    static const Json& getNothing();
 
     std::vector<std::string> getKeys() const;
 

@@ -43,14 +43,14 @@ protected:
 };
 
 /// What the tree says of a component, further down too; nothing when there is no such component.
-Json findById(const Json& tree, const std::string& id) {
+const Json& findById(const Json& tree, const std::string& id) {
     if (tree["auditorID"].text == id)
         return tree;
     for (const Json& child : tree["children"].items) {
-        if (Json found = findById(child, id); found.kind != Json::Kind::NOTHING)
+        if (const Json& found = findById(child, id); found.kind != Json::Kind::NOTHING)
             return found;
     }
-    return {};
+    return Json::getNothing();
 }
 
 Numbers toNumbers(LvVec2i32 pair) { return {static_cast<double>(pair.x), static_cast<double>(pair.y)}; }
@@ -182,7 +182,8 @@ TEST_F(TreePrinterTest, styles_areThoseOfTheWindows) {
 }
 
 TEST_F(TreePrinterTest, windows_areVisibleOnceTheDialogShows) {
-    EXPECT_FALSE(print()["windows"][0]["visible"].boolean);
+    const Json before = print();
+    EXPECT_FALSE(before["windows"][0]["visible"].boolean);
     m_dialog->show();
     const Json tree = print();
     EXPECT_TRUE(tree["windows"][0]["visible"].boolean);
