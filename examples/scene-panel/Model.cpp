@@ -9,36 +9,32 @@ constexpr float TURN = 0.5236F; // 30 degrees
 constexpr float GROWTH = 1.15F;
 constexpr float LARGEST = 1.6F;
 
-/// A box with a colour, its middle at a place.
-LuNode* makeBox(const LvVec3f& size, const LvVec3f& place, const LvColor& color) {
-    auto* box = new LuSeparator;
+/// A shape with a colour, its middle at a place.
+LuNode* makeColored(LuShape* shape, const LvVec3f& place, const LvColor& color) {
+    auto* colored = new LuSeparator;
     auto* material = new LuMaterial;
     material->diffuseColor.setValue(color);
     auto* translation = new LuTranslation;
     translation->translation.setValue(place);
+    colored->addChild(material);
+    colored->addChild(translation);
+    colored->addChild(shape);
+    return colored;
+}
+
+LuNode* makeBox(const LvVec3f& size, const LvVec3f& place, const LvColor& color) {
     auto* cube = new LuCube;
     cube->width.setValue(size.x);
     cube->height.setValue(size.y);
     cube->depth.setValue(size.z);
-    for (LuNode* node :
-         {static_cast<LuNode*>(material), static_cast<LuNode*>(translation), static_cast<LuNode*>(cube)})
-        box->addChild(node);
-    return box;
+    return makeColored(cube, place, color);
 }
 
 LuNode* makeRoof(const LvVec3f& place, const LvColor& color) {
-    auto* roof = new LuSeparator;
-    auto* material = new LuMaterial;
-    material->diffuseColor.setValue(color);
-    auto* translation = new LuTranslation;
-    translation->translation.setValue(place);
     auto* cone = new LuCone;
     cone->bottomRadius.setValue(26);
     cone->height.setValue(30);
-    roof->addChild(material);
-    roof->addChild(translation);
-    roof->addChild(cone);
-    return roof;
+    return makeColored(cone, place, color);
 }
 
 const LvColor WHITE(0.92F, 0.92F, 0.9F);
