@@ -18,10 +18,11 @@ protected:
     /// Makes a skin whose one file has a mark.
     static std::string makeMarkedSkin() {
         const std::filesystem::path folder = std::filesystem::path(getTestOutputFolder()) / "marked-skin";
+        // Of an earlier run: MinGW's library does not overwrite files.
+        std::filesystem::remove_all(folder);
         std::filesystem::create_directories(folder);
         for (const auto& file : std::filesystem::directory_iterator("data/Panelix/skins/default"))
-            std::filesystem::copy_file(file.path(), folder / file.path().filename(),
-                                       std::filesystem::copy_options::overwrite_existing);
+            std::filesystem::copy_file(file.path(), folder / file.path().filename());
         std::ofstream(folder / "TextProperties.lum")
             << "#Lumora V2.0 ascii\nDEF DialogTextProperties Group { Font { } }\n"
                "DEF SkinChoiceTestMark Group { }\n";
