@@ -38,7 +38,8 @@ public:
             changeSkin();
         else if (id == "window")
             openWindow();
-        m_status->label.setValue(m_model.isLampOn() ? "The lamp is lit" : "A lighthouse");
+        if (m_status)
+            m_status->label.setValue(m_model.isLampOn() ? "The lamp is lit" : "A lighthouse");
     }
 
 private:

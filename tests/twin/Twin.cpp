@@ -142,8 +142,8 @@ TwinOutcome playTwin(Rendition rendition, const std::string& dialogText, const s
     return outcome;
 }
 
-void expectTwins(const std::string& dialog, const std::string& script,
-                 const std::vector<TwinDifference>& differences) {
+std::vector<std::string> expectTwins(const std::string& dialog, const std::string& script,
+                                     const std::vector<TwinDifference>& differences) {
     const TwinOutcome windows = playTwin(Rendition::WINDOWS, dialog, script);
     const TwinOutcome scene = playTwin(Rendition::SCENE, dialog, script);
     EXPECT_EQ(windows.calls, scene.calls);
@@ -160,4 +160,5 @@ void expectTwins(const std::string& dialog, const std::string& script,
     for (std::size_t i = 0; i < differences.size(); ++i)
         EXPECT_TRUE(isMet[i]) << differences[i].field
                               << " was said to differ, but doesn't: " << differences[i].reason;
+    return windows.calls;
 }

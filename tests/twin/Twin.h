@@ -26,6 +26,6 @@ struct TwinDifference {
 };
 
 /// Plays one script to both renditions and expects the same of them, but for the differences. One that is
-/// expected and is not there fails the test, too.
-void expectTwins(const std::string& dialog, const std::string& script,
-                 const std::vector<TwinDifference>& differences = {});
+/// expected and is not there fails the test, too. The result is what both auditors heard.
+std::vector<std::string> expectTwins(const std::string& dialog, const std::string& script,
+                                     const std::vector<TwinDifference>& differences = {});
