@@ -12,6 +12,11 @@ file(GLOB play CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/apps/play/*.cpp)
 add_library(panelix-play STATIC ${play})
 target_link_libraries(panelix-play PUBLIC panelix PRIVATE panelix-options)
 
+# What examples with a panel in a scene share.
+file(GLOB stage CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/examples/stage/*.cpp)
+add_library(panelix-stage STATIC ${stage})
+target_link_libraries(panelix-stage PUBLIC panelix-play panelix-viewer panelix PRIVATE panelix-options)
+
 function(panelix_add_programs folder prefix)
     file(GLOB mains CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${folder}/*/main.cpp)
     foreach(main IN LISTS mains)
@@ -20,7 +25,7 @@ function(panelix_add_programs folder prefix)
         file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${home}/*.cpp)
         list(FILTER sources EXCLUDE REGEX "${otherFolder}")
         add_executable(${prefix}-${name} ${sources})
-        target_link_libraries(${prefix}-${name} PRIVATE panelix-play panelix-viewer panelix panelix-options)
+        target_link_libraries(${prefix}-${name} PRIVATE panelix-stage panelix-options)
         # One that has no viewer needs none of its libraries.
         target_link_options(${prefix}-${name} PRIVATE LINKER:--as-needed)
     endforeach()

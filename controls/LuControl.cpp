@@ -3,7 +3,13 @@
 
 #include "layout/LuTopLevelDialog.h"
 #include "platform/lumora/nodes/LuGroup.h"
+#include "platform/lumora/nodes/LuText3.h"
+#include "platform/lumora/nodes/LuTransforms.h"
 #include "platform/lumora/win/LuWin.h"
+
+namespace {
+constexpr float CHECK_MARK_SIZE = 14; ///< Scene units, on both axes.
+}
 
 HWND LuControl::createChild(const wchar_t* className, DWORD style, const LvString& text) {
     const HWND child =
@@ -97,6 +103,37 @@ void LuControl::handKeyToTopLevel(UINT message, WPARAM key, LPARAM lParam) {
 void LuControl::setCurrentFocusedChild(HWND child) {
     if (auto* top = static_cast<LuTopLevelDialog*>(getFirstTopParent(1, 0)))
         top->setCurrentFocusedWidget(child);
+}
+
+void LuControl::createText3D(const char* part, LuTranslation*& translation, LuText3*& text) {
+    translation = new LuTranslation;
+    text = new LuText3;
+    text->parts = LuText3::FRONT;
+    LuGroup* const group = getGroupPart(part);
+    group->insertChild(translation, 0);
+    group->addChild(text);
+}
+
+void LuControl::setText3D(Text3D& text, const LvString& string) {
+    if (text.node)
+        setStringToText3(text.node, string);
+    text.box = getUnsetBox();
+}
+
+const LvBox3f& LuControl::getBox3D(Text3D& text, LuNode* properties) {
+    if (text.box == getUnsetBox())
+        text.box = measureText(properties, text.node);
+    return text.box;
+}
+
+LuTranslation* LuControl::createCheckMark3D(const char* part) {
+    auto* scale = new LuScale;
+    scale->scaleFactor = LvVec3f(CHECK_MARK_SIZE, CHECK_MARK_SIZE, 1);
+    auto* translation = new LuTranslation;
+    LuGroup* const group = getGroupPart(part);
+    group->insertChild(scale, 0);
+    group->insertChild(translation, 0);
+    return translation;
 }
 
 LuGroup* LuControl::getGroupPart(const char* part) { return static_cast<LuGroup*>(getPart(part, true)); }

@@ -53,6 +53,25 @@ protected:
     /// Tells the top-level dialog, if there is one, that the user works with this window.
     void setCurrentFocusedChild(HWND child);
 
+    /// A text in 3D: its node, the translation in front of it, and its box, measured when it is asked for.
+    struct Text3D {
+        LuTranslation* translation = nullptr;
+        LuText3* node = nullptr;
+        LvBox3f box = getUnsetBox();
+    };
+
+    /// Puts a text, of which only the front shows, behind all that a part holds, and its translation in
+    /// front.
+    void createText3D(const char* part, LuTranslation*& translation, LuText3*& text);
+    void createText3D(const char* part, Text3D& text) { createText3D(part, text.translation, text.node); }
+
+    /// Sets the lines of the text as they are. It stays in its place until it is placed anew.
+    static void setText3D(Text3D& text, const LvString& string);
+    const LvBox3f& getBox3D(Text3D& text, LuNode* properties);
+
+    /// Makes a check mark of the unit shapes in a part, and gives the translation of its centre.
+    LuTranslation* createCheckMark3D(const char* part);
+
     /// The node of a part as a group; it is made when it isn't there.
     LuGroup* getGroupPart(const char* part);
 

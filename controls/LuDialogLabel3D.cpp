@@ -28,12 +28,7 @@ LvString keepReturns(const LvString& text) {
 void LuDialogLabel::create3DDialogLabel() {
     loadFontProperties();
     setPartAsDefault("labelProp", "DialogTextProperties");
-    m_textTranslation = new LuTranslation;
-    m_text3 = new LuText3;
-    m_text3->parts = LuText3::FRONT;
-    LuGroup* const group = getGroupPart("labelSep");
-    group->insertChild(m_textTranslation, 0);
-    group->addChild(m_text3);
+    createText3D("labelSep", m_textTranslation, m_text3);
     change3DLabel();
     change3DLabelAlignment();
     setBuilt3D(1);

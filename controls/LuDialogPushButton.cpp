@@ -14,8 +14,7 @@ constexpr int TEXT_ROOM = 12; ///< Pixels that the native button needs round its
 LuDialogPushButton::LuDialogPushButton() {
     LuKitConstructor constructor(s_class, this, &initClass);
     constructor.field("buttonLabel", buttonLabel);
-    addLabelParts(constructor);
-    constructor.part("frameSep", frameSep, "Separator", "geomSwitch", false);
+    addFrameParts(constructor);
     constructor.part("frameSwitch", frameSwitch, "Switch", "frameSep", false);
     constructor.part("released", released, "Group", "frameSwitch", true);
     constructor.part("pressed", pressed, "Group", "frameSwitch", true);
@@ -23,10 +22,7 @@ LuDialogPushButton::LuDialogPushButton() {
     constructor.part("buttonLabelProp", buttonLabelProp, "Group", "buttonLabelSep", true);
 }
 
-LuDialogPushButton::~LuDialogPushButton() {
-    destroyChild(m_buttonWidget);
-    delete m_buttonLabelSensor;
-}
+LuDialogPushButton::~LuDialogPushButton() { delete m_buttonLabelSensor; }
 
 void LuDialogPushButton::addAuditor(LuDialogPushButtonAuditor* auditor) { LuPanelix::addAuditor(auditor); }
 
@@ -45,29 +41,24 @@ void LuDialogPushButton::updateFromSensor(LuSensor* sensor) {
     if (isBuilt3D() && canBeTraversed())
         change3DButtonLabel();
     else
-        LuLabelledControl::updateFromSensor(sensor);
+        LuLabelledButton::updateFromSensor(sensor);
 }
 
 LvVec2i32 LuDialogPushButton::getComponentInitSize() {
     if (m_componentInitSize.x == -1) {
         m_buttonTextSize = getLabelPixelSize(buttonLabel.getValue(), this) + LvVec2i32(TEXT_ROOM, TEXT_ROOM);
-        m_componentInitSize = m_buttonTextSize;
-        if (!labelVisibility.getValue())
-            m_componentInitSize.x = luAddSize(m_componentInitSize.x, -std::int64_t{m_labelSize.x});
+        m_componentInitSize = leaveOutHiddenLabel(m_buttonTextSize);
     }
     return m_componentInitSize;
 }
 
 void LuDialogPushButton::getDefaultSize(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize) {
-    LuLabelledControl::getDefaultSize(size, minSize, maxSize);
-    size = m_componentSize;
-    if (labelVisibility.getValue())
-        size.x = luAddSize(size.x, std::int64_t{m_labelSize.x} + LABEL_GAP);
+    LuLabelledButton::getDefaultSize(size, minSize, maxSize);
     size.y = std::max(size.y, m_buttonTextSize.y);
 }
 
 void LuDialogPushButton::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& position, int is2D) {
-    LuLabelledControl::buildWidget(parent, size, position, is2D);
+    LuLabelledButton::buildWidget(parent, size, position, is2D);
     if (is2D) {
         if (!existWidget(m_labelWidget))
             createLabelWindow();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "controls/LuLabelledControl.h"
+#include "controls/LuLabelledButton.h"
 
 class LuDialogPushButtonAuditor;
 
@@ -16,7 +16,7 @@ class LuDialogPushButtonAuditor;
 ///
 /// Where both renditions exist, each shows the pressed look of the other. A new `buttonLabel` is not centred
 /// in 3D before the next build.
-class LuDialogPushButton : public LuLabelledControl {
+class LuDialogPushButton : public LuLabelledButton {
     LU_KIT_HEADER(LuDialogPushButton)
     LU_SKIN_HEADER(DialogPushButton)
 
@@ -40,15 +40,9 @@ class LuDialogPushButton : public LuLabelledControl {
 
     // Windows
     void buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& position, int is2D) override;
-    void destroyWidget() override;
     HWND getButtonWidget() const { return m_buttonWidget; }
-    void updateButtonWidget();
-    void updateLabelWidget();
+    void updateButtonWidget() { placeButtonWindow(); }
     void changeEnable() override;
-    void changeLabel() override;
-    void changeLabelAlignment() override;
-    void changeLabelVisibility() override;
-    void changeWidgetEnable(int enable) override;
     void changeEdgeStyle() override;
     void changeButtonLabel();
 
@@ -56,8 +50,6 @@ class LuDialogPushButton : public LuLabelledControl {
     void changeButtonState(int isPressed);
 
     // 3D
-    void change3DLabel() override;
-    void change3DLabelAlignment() override;
     void change3DLabelVisibility() override;
     void change3DButtonLabel();
     void change3DButtonState(int isPressed);
@@ -77,7 +69,6 @@ class LuDialogPushButton : public LuLabelledControl {
 protected:
     ~LuDialogPushButton() override;
 
-    LuSFNode frameSep;
     LuSFNode frameSwitch;
     LuSFNode released;
     LuSFNode pressed;
@@ -95,13 +86,7 @@ private:
     static void startCB3D(void* data, LuDragger* dragger);
     static void finishCB3D(void* data, LuDragger* dragger);
 
-    HWND m_buttonWidget = nullptr;
     LvVec2i32 m_buttonTextSize;
     LuFieldSensor* m_buttonLabelSensor = nullptr;
-    LuText3* m_buttonText3 = nullptr;
-    LuTranslation* m_frameTranslation = nullptr;
-    LuTranslation* m_buttonLabelTranslation = nullptr;
-    LuScale* m_frameScale = nullptr;
-    LuTransform* m_frameTransform = nullptr;
-    LvBox3f m_buttonLabelBBox = getUnsetBox();
+    Text3D m_buttonText;
 };

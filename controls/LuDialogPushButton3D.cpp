@@ -2,7 +2,7 @@
 #include "controls/LuDialogPushButton.h"
 
 #include "generated/LuEmbeddedSkins.h"
-#include "platform/lumora/nodes/LuText3.h"
+#include "platform/lumora/nodes/LuGroup.h"
 #include "platform/lumora/nodes/LuTransforms.h"
 
 const char* LuDialogPushButton::DialogPushButton = LuEmbeddedSkin_DialogPushButton;
@@ -21,22 +21,10 @@ void LuDialogPushButton::create3DDialogPushButton() {
     for (const auto& [part, node] : SKIN_PARTS)
         setPartAsDefault(part, node);
 
-    m_frameScale = new LuScale;
-    getGroupPart("frameSep")->insertChild(m_frameScale, 0);
-    m_frameTranslation = new LuTranslation;
-    insertBeforePart(m_frameTranslation, "frameSep");
-    m_frameTransform = new LuTransform;
-    insertBeforePart(m_frameTransform, "buttonLabelSep");
-
+    createFrame3D("buttonLabelSep");
     createLabel3D();
     change3DLabel();
-
-    m_buttonLabelTranslation = new LuTranslation;
-    m_buttonText3 = new LuText3;
-    m_buttonText3->parts = LuText3::FRONT;
-    LuGroup* const buttonLabelGroup = getGroupPart("buttonLabelSep");
-    buttonLabelGroup->insertChild(m_buttonLabelTranslation, 0);
-    buttonLabelGroup->addChild(m_buttonText3);
+    createText3D("buttonLabelSep", m_buttonText);
     change3DButtonLabel();
 
     setSwitchValue(getGroupPart("frameSwitch"), 0);
@@ -44,30 +32,16 @@ void LuDialogPushButton::create3DDialogPushButton() {
     addStartCallback(startCB3D, nullptr);
     addFinishCallback(finishCB3D, nullptr);
     setBuilt3D(1);
-    m_buttonLabelBBox = getUnsetBox();
 }
 
 void LuDialogPushButton::update3DButton() {
     LvVec2i32 size, offset;
     get3DComponentSize(size, offset);
-    m_frameTranslation->translation = LvVec3f(static_cast<float>(offset.x), static_cast<float>(offset.y), 0);
-    m_frameScale->scaleFactor = LvVec3f(static_cast<float>(size.x), static_cast<float>(size.y), 1);
-
-    if (m_buttonLabelBBox == getUnsetBox())
-        m_buttonLabelBBox = measureText(buttonLabelProp.getValue(), m_buttonText3);
     // This centres the text because its box starts at 0.
-    const float textWidth = m_buttonLabelBBox.max.x - m_buttonLabelBBox.min.x;
-    m_buttonLabelTranslation->translation = getTextPlace(textWidth * -0.5F, m_buttonLabelBBox);
-    undoTransformMatrix(frameSep.getValue(), m_frameTransform);
+    const LvBox3f& box = getBox3D(m_buttonText, buttonLabelProp.getValue());
+    m_buttonText.translation->translation = getTextPlace((box.max.x - box.min.x) * -0.5F, box);
+    placeFrame3D(static_cast<float>(offset.x), size);
 }
-
-void LuDialogPushButton::change3DLabel() {
-    if (m_labelText3)
-        m_labelText3->string.setValue(label.getValue());
-    LuLabelledControl::change3DLabel();
-}
-
-void LuDialogPushButton::change3DLabelAlignment() { update3DLabel(); }
 
 void LuDialogPushButton::change3DLabelVisibility() {
     if (!m_frameScale)
@@ -77,16 +51,14 @@ void LuDialogPushButton::change3DLabelVisibility() {
 }
 
 void LuDialogPushButton::change3DButtonLabel() {
-    if (m_buttonText3)
-        setStringToText3(m_buttonText3, convertToCString(buttonLabel.getValue(), this));
-    m_buttonLabelBBox = getUnsetBox();
+    setText3D(m_buttonText, convertToCString(buttonLabel.getValue(), this));
 }
 
 void LuDialogPushButton::change3DButtonState(int isPressed) {
     if (!m_frameTransform)
         return;
     setSwitchValue(frameSwitch.getValue(), isPressed ? 1 : 0);
-    undoTransformMatrix(frameSep.getValue(), m_frameTransform);
+    liftToFrame3D();
 }
 
 /// A press on the label does not operate the button.

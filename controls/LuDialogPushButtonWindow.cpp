@@ -1,13 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/LuDialogPushButton.h"
 
-#include "platform/lumora/nodes/LuTransforms.h"
-
 namespace {
-
-/// What the height loses before the label is put in its middle: 3 less than for a plain label, so that it
-/// stands level with the text on the button.
-constexpr int LABEL_ROOM = 3;
 
 /// The procedure of the system's own buttons; all push buttons share it.
 WNDPROC s_nativeProcedure = nullptr;
@@ -31,55 +25,13 @@ LRESULT CALLBACK LuDialogPushButton::buttonProcedure(HWND window, UINT message, 
     return CallWindowProcA(s_nativeProcedure, window, message, wParam, lParam);
 }
 
-void LuDialogPushButton::destroyWidget() {
-    if (m_built2D) {
-        destroyChild(m_buttonWidget);
-        destroyChild(m_labelWidget);
-    }
-    LuLabelledControl::destroyWidget();
-}
-
-void LuDialogPushButton::updateButtonWidget() {
-    LvVec2i32 size, position;
-    get2DComponentSize(size, position);
-    placeChild(m_buttonWidget, position, size);
-}
-
-void LuDialogPushButton::updateLabelWidget() {
-    placeLabelWindow(LABEL_ROOM);
-    showLabelWindow();
-}
-
 void LuDialogPushButton::changeEnable() {
-    LuLabelledControl::changeEnable();
-    enableChild(m_labelWidget);
-    enableChild(m_buttonWidget);
-}
-
-void LuDialogPushButton::changeWidgetEnable(int isAllowed) {
-    enableChild(m_labelWidget, isAllowed);
-    enableChild(m_buttonWidget, isAllowed);
-    LuLabelledControl::changeWidgetEnable(isAllowed);
-}
-
-void LuDialogPushButton::changeLabel() {
-    setChildText(m_labelWidget, label.getValue());
-    updateLabelWidget();
-}
-
-void LuDialogPushButton::changeLabelAlignment() {
-    changeLabelWindowStyle();
-    changeEnable();
-    changeLabelVisibility();
-}
-
-void LuDialogPushButton::changeLabelVisibility() {
-    showLabelWindow();
-    updateButtonWidget();
+    LuLabelledButton::changeEnable();
+    enableWindows();
 }
 
 void LuDialogPushButton::changeEdgeStyle() {
-    LuLabelledControl::changeEdgeStyle();
+    LuLabelledButton::changeEdgeStyle();
     updateLabelWidget();
     updateButtonWidget();
 }

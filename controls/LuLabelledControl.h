@@ -12,6 +12,12 @@ public:
     /// The label's window, or null while there is none.
     HWND getLabelWidget() override { return existWidget(m_labelWidget) ? m_labelWidget : nullptr; }
 
+    /// The size that the container gives, and the label's column beside it.
+    void getDefaultSize(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize) override;
+    void changeLabelAlignment() override;
+    void change3DLabel() override;
+    void change3DLabelAlignment() override { placeLabel3D(); }
+
 protected:
     /// Pixels between the label and the control.
     static constexpr int LABEL_GAP = 2;
@@ -31,13 +37,14 @@ protected:
     void placeLabelWindow(int room);
     void showLabelWindow() { showChild(m_labelWidget, labelVisibility.getValue()); }
 
-    /// Gives the label's window the style of the alignment. Show and enable it anew afterwards.
-    void changeLabelWindowStyle();
-
     /// The steps of the 3D rendition.
     void createLabel3D();
     void placeLabel3D();
     void showLabel3D();
+
+    /// Where the room beside the label begins in 3D, from the component's left edge, and how wide it is, in
+    /// scene units.
+    void getRoom3D(int& left, int& room) const;
 
     LuSFNode labelSep;
     LuSFNode labelSwitch;

@@ -6,6 +6,8 @@ set -euo pipefail
 
 # shellcheck source=tools/environment.sh
 source "$(dirname "${BASH_SOURCE[0]}")/environment.sh"
+# shellcheck source=tools/wine.sh
+source "$(dirname "${BASH_SOURCE[0]}")/wine.sh"
 
 # Wine's frame round a window that no window manager takes care of.
 FRAME=4
@@ -44,12 +46,15 @@ runner=wine
 start_program() {
     local output=$1 title=$2
     shift 2
-    : >"$output"
-    ${runner:+"$runner"} "$@" </dev/null >"$output" 2>&1 &
-    program_pid=$!
-    wait_until has_window_or_ended "$title" || true
+    try_program "$output" "$title" "$@"
+    if [ -z "$window" ] && has_ended; then
+        read_status
+        ! is_false_start "$program_status" "$output" || try_program "$output" "$title" "$@"
+    fi
     [ -n "$window" ] || {
-        desktop_error "the window \"$title\" did not come; the program said: $(cat "$output")"
+        local state="is running"
+        ! has_ended || { read_status && state="ended with status $program_status"; }
+        desktop_error "the window \"$title\" did not come; the program $state and said: $(cat "$output")"
         return 1
     }
     xdotool mousemove 1270 1010
@@ -57,6 +62,22 @@ start_program() {
     # The keyboard goes where the program has put the focus, once X gives it to the window.
     xdotool windowfocus "$window"
     settle
+}
+
+try_program() {
+    local output=$1 title=$2
+    shift 2
+    : >"$output"
+    wine_start=$(date +%s%N)
+    ${runner:+"$runner"} "$@" </dev/null >"$output" 2>&1 &
+    program_pid=$!
+    wait_until has_window_or_ended "$title" || true
+}
+
+# The program has ended: its exit status, in $program_status.
+read_status() {
+    program_status=0
+    wait "$program_pid" || program_status=$?
 }
 
 has_window_or_ended() {
@@ -100,8 +121,9 @@ wait_for_line() { wait_until has_line "$1" "$2" || desktop_error "the line did n
 read_places() {
     local tree
     tree=$(mktemp "$PANELIX_ROOT/build/tree.XXXXXX")
-    timeout 60 wine "${2:-$PANELIX_ROOT/build/windows/bin/panelix-view.exe}" "$1" --tree </dev/null >"$tree" 2>&1 ||
-        desktop_error "there is no tree of $1: $(cat "$tree")"
+    local status=0
+    run_wine "$tree" 60 "${2:-$PANELIX_ROOT/build/windows/bin/panelix-view.exe}" "$1" --tree || status=$?
+    [ $status = 0 ] || desktop_error "there is no tree of $1, by status $status: $(cat "$tree")"
     # Positions in the tree are relative to the component around; these here to the corner of the frame.
     places=$(tr -d '\r' <"$tree" | awk -v frame=$FRAME -v title=$TITLE_HEIGHT '{
         match($0, /^ */); depth = RLENGTH / 2

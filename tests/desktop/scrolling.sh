@@ -24,7 +24,7 @@ has_more_lines() { [ "$(wc -l <"$events")" -gt "$1" ]; }
 
 # The dialog learns the wheel's step when settings of the user have changed.
 tell_settings() {
-    timeout 60 wine "$PROGRAMS/desktop-tellSettings.exe" </dev/null >/dev/null 2>&1 ||
+    run_wine "$FOLDER/settings.txt" 60 "$PROGRAMS/desktop-tellSettings.exe" ||
         desktop_error "the settings could not be told"
     settle
 }
