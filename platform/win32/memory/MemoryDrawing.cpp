@@ -273,6 +273,10 @@ HDC BeginPaint(HWND window, PAINTSTRUCT* paint) {
 
 BOOL EndPaint(HWND window, const PAINTSTRUCT* paint) { return paint && ReleaseDC(window, paint->hdc); }
 
+int FillRect(HDC dc, const RECT* rect, HBRUSH brush) {
+    return rect && findObject(dc, Kind::CONTEXT) && findObject(brush, Kind::BRUSH);
+}
+
 HBRUSH GetSysColorBrush(int index) {
     static HBRUSH s_brushes[COLOR_3DLIGHT + 16] = {};
     if (index < 0 || index >= static_cast<int>(std::size(s_brushes)))

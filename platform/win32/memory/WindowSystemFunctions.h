@@ -93,6 +93,7 @@ BOOL InvalidateRect(HWND window, const RECT* rect, BOOL erase);
 BOOL RedrawWindow(HWND window, const RECT* rect, HRGN region, UINT flags);
 HDC BeginPaint(HWND window, PAINTSTRUCT* paint);
 BOOL EndPaint(HWND window, const PAINTSTRUCT* paint);
+int FillRect(HDC dc, const RECT* rect, HBRUSH brush);
 
 // Texts of windows.
 BOOL SetWindowTextA(HWND window, LPCSTR text);

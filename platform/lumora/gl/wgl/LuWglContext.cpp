@@ -67,16 +67,28 @@ bool LuWglContext::replaceByCore(int major, int minor) {
     return true;
 }
 
-bool LuWglContext::open(HWND window, DWORD flags, int major, int minor) {
+bool LuWglContext::createContext(HWND window, DWORD flags) {
     m_window = window;
     if (!m_window)
         return fail("no window can be made");
     if (!setPixelFormat(flags))
         return false;
     m_context = wglCreateContext(m_device);
-    if (!m_context)
-        return fail("no context can be made");
-    return makeCurrent() && replaceByCore(major, minor) && makeCurrent() && m_functions->load(&loadFunction);
+    return m_context || fail("no context can be made");
+}
+
+bool LuWglContext::open(HWND window, DWORD flags, int major, int minor) {
+    return createContext(window, flags) && makeCurrent() && replaceByCore(major, minor) && makeCurrent() &&
+           m_functions->load(&loadFunction);
+}
+
+bool LuWglContext::openCompatible(HWND window) {
+    return createContext(window, 0) && makeCurrent() && m_functions->load(&loadFunction);
+}
+
+HWND LuWglContext::createHiddenWindow() {
+    return CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, GetModuleHandleA(nullptr),
+                           nullptr);
 }
 
 LuWglContext::~LuWglContext() {
@@ -102,10 +114,8 @@ void LuWglContext::swapBuffers() { SwapBuffers(m_device); }
 std::unique_ptr<LuGLContext> LuGLContext::create(int major, int minor) {
     // In a window that never shows. Pixels of such a window are nobody's business: what is drawn goes into
     // framebuffer objects.
-    const HWND window = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
-                                        GetModuleHandleA(nullptr), nullptr);
     auto context = std::make_unique<LuWglContext>();
-    if (!context->open(window, 0, major, minor))
+    if (!context->open(LuWglContext::createHiddenWindow(), 0, major, minor))
         return nullptr;
     return context;
 }

@@ -15,6 +15,12 @@ public:
     /// False, with a message, when it can't be.
     bool open(HWND window, DWORD flags, int major, int minor);
 
+    /// The same with an old context, which has the fixed-function operations too.
+    bool openCompatible(HWND window);
+
+    /// A window that never shows, for contexts that draw into framebuffers of their own; null on a failure.
+    static HWND createHiddenWindow();
+
     bool makeCurrent() override;
     HWND getWindow() const { return m_window; }
 
@@ -24,6 +30,7 @@ public:
 private:
     static bool fail(const char* what);
     bool setPixelFormat(DWORD flags);
+    bool createContext(HWND window, DWORD flags);
     bool replaceByCore(int major, int minor);
 
     HWND m_window = nullptr;
