@@ -11,10 +11,11 @@ namespace {
 constexpr float CHECK_MARK_SIZE = 14; ///< Scene units, on both axes.
 }
 
-HWND LuControl::createChild(const wchar_t* className, DWORD style, const LvString& text) {
+HWND LuControl::createChild(const wchar_t* className, DWORD style, const LvString& text, DWORD exStyle,
+                            const LvVec2i32& size) {
     const HWND child =
-        checkChild(CreateWindowExW(0, className, convertToCString(text, this).toWide().c_str(), style, 0, 0,
-                                   0, 0, m_widget, nullptr, LuWin::getInstance(), nullptr));
+        checkChild(CreateWindowExW(exStyle, className, convertToCString(text, this).toWide().c_str(), style,
+                                   0, 0, size.x, size.y, m_widget, nullptr, LuWin::getInstance(), nullptr));
     if (child) {
         setWidgetFont(child);
         enableChild(child);

@@ -11,9 +11,10 @@ class LuControl : public LuDialogComponent {
 protected:
     LuControl() = default;
 
-    /// Creates a window inside the carrier window, at (0, 0) and without a size, with the component's font
-    /// and enabling. `text` goes through convertToCString. Null on a failure, which has been reported.
-    HWND createChild(const wchar_t* className, DWORD style, const LvString& text);
+    /// Creates a window inside the carrier window, at (0, 0), with the component's font and enabling. `text`
+    /// goes through convertToCString. Null on a failure, which has been reported.
+    HWND createChild(const wchar_t* className, DWORD style, const LvString& text, DWORD exStyle = 0,
+                     const LvVec2i32& size = {});
 
     /// Reports a child window that could not be created. The carrier's own failure has been reported already.
     HWND checkChild(HWND child);

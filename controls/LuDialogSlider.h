@@ -37,7 +37,7 @@ class LuDialogSlider : public LuLabelledControl {
     LuSFBool continuousTrigger{false};
     LuSFBool toggleVisible{true};
     LuSFBool fixedLimits{false};
-    LuMFColor colors;
+    LuMFColor colors{LvColor(0.66F, 0.66F, 0.66F)};
     LuSFBool shadedColors{true};
 
     /// The value of the slider's window, from 0 to 1; 0 while there is none.
@@ -48,7 +48,6 @@ class LuDialogSlider : public LuLabelledControl {
 
     // Sizes
     LvVec2i32 getComponentInitSize() override { return {150, 30}; }
-    void getDefaultSize(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize) override;
 
     // What the number is to the derived classes
 
@@ -96,7 +95,6 @@ class LuDialogSlider : public LuLabelledControl {
     void updateLabelWidget();
     void changeEnable() override;
     void changeLabel() override;
-    void changeLabelAlignment() override;
     void changeLabelVisibility() override;
     void changeWidgetEnable(int enable) override;
     void changeEdgeStyle() override;
@@ -147,12 +145,16 @@ protected:
     float m_normalizedValue = 0;
     int m_sliderWidth = 0;
     int m_editZoneWidth = 0;
-    std::unique_ptr<LuDialogCustomSlider> m_customSlider;
+    std::unique_ptr<LuDialogCustomSlider> m_customSlider; ///< What is behind the slider's window.
     LuText3* m_valueText3 = nullptr;
     int m_editing3D = 0;
 
 private:
+    void showText();
+    void showPosition();
+
     // Windows
+    void buildWindows();
     void createToggleWidget();
     void createEditWidget();
     void createSliderWidget();
@@ -164,6 +166,12 @@ private:
 
     /// After a click on the toggle: lets the end of a drag be told, or not, as `continuousTrigger` says.
     void changeFinishCallback();
+
+    void changeBarColors();
+    void enableWindows(bool isAllowed);
+    void enableBar(bool isAllowed);
+    int getLabelRoom() const;
+    int getToggleRoom() const;
 
     // 3D
     void create3DDialogSlider();
