@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "auditors/LuDialogAuditor.h"
 
+#include "controls/LuDialogCheckBox.h"
 #include "controls/LuDialogPushButton.h"
 #include "platform/lumora/base/LuDebugError.h"
 #include "platform/lumora/base/LuPreferences.h"
@@ -30,7 +31,14 @@ void LuDialogAuditor::dialogPushButton(LuDialogPushButton* button) {
                           namedLine("buttonLabel", button->buttonLabel.getValue()));
 }
 
-void LuDialogAuditor::dialogCheckBox(LuDialogCheckBox*) {}
+void LuDialogAuditor::dialogCheckBox(LuDialogCheckBox* checkBox) {
+    if (isDiagnosing())
+        postUndefined("dialogCheckBox", "LuDialogCheckBox",
+                      namedLine("label", checkBox->label.getValue()) +
+                          namedLine("onString", checkBox->onString.getValue()) +
+                          namedLine("offString", checkBox->offString.getValue()));
+}
+
 void LuDialogAuditor::dialogComboBox(LuDialogComboBox*) {}
 void LuDialogAuditor::dialogEditText(LuDialogEditText*) {}
 void LuDialogAuditor::dialogIntegerSlider(LuDialogIntegerSlider*) {}

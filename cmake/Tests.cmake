@@ -8,8 +8,12 @@ add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM
 
 file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/*Test.cpp)
 list(FILTER sources EXCLUDE REGEX "/tests/(desktop|fuzz)/")
-file(GLOB host CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/*.cpp ${CMAKE_SOURCE_DIR}/tests/twin/*.cpp)
+file(GLOB host CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/*.cpp ${CMAKE_SOURCE_DIR}/tests/twin/*.cpp
+    ${CMAKE_SOURCE_DIR}/tests/random/*.cpp)
+# For each case of tests/random; real windows take their time.
+set(randomActions 100000)
 if(WIN32)
+    set(randomActions 1000)
     # What only the window system in memory offers, and what only Linux has.
     list(FILTER sources EXCLUDE REGEX "/tests/platform/(win32/memory|lumora/viewer/glfw)/")
 else()
@@ -24,7 +28,8 @@ list(REMOVE_DUPLICATES sources)
 add_executable(panelix-tests ${sources})
 target_link_libraries(panelix-tests PRIVATE panelix-play panelix-viewer panelix panelix-options GTest::gtest GTest::gmock)
 set_property(SOURCE ${host} APPEND PROPERTY COMPILE_DEFINITIONS
-    PANELIX_TEST_FONTS="${CMAKE_BINARY_DIR}/fonts.conf" PANELIX_TEST_OUTPUT="${CMAKE_BINARY_DIR}/test-output")
+    PANELIX_TEST_FONTS="${CMAKE_BINARY_DIR}/fonts.conf" PANELIX_TEST_OUTPUT="${CMAKE_BINARY_DIR}/test-output"
+    PANELIX_RANDOM_ACTIONS=${randomActions})
 
 include(GoogleTest)
 # Asked for its cases when they are run, not when it is built: a build needs no Wine and no display.

@@ -2,6 +2,7 @@
 #include "auditors/LuAuditorDispatch.h"
 
 #include "auditors/LuDialogAuditor.h"
+#include "controls/LuDialogCheckBox.h"
 #include "controls/LuDialogPushButton.h"
 
 namespace {
@@ -27,6 +28,7 @@ constexpr unsigned CONTROL =
 /// In the order of the tests, which is not that of the auditor's operations.
 constexpr DispatchRow s_rows[] = {
     row<LuDialogPushButton, &LuDialogAuditor::dialogPushButton>(CONTROL),
+    row<LuDialogCheckBox, &LuDialogAuditor::dialogCheckBox>(CONTROL),
 };
 
 } // namespace

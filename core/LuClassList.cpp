@@ -2,6 +2,7 @@
 #include "core/LuClassList.h"
 
 #include "auditors/LuAuditor.h"
+#include "controls/LuDialogCheckBox.h"
 #include "controls/LuDialogLabel.h"
 #include "controls/LuDialogPushButton.h"
 #include "controls/LuDialogSeparator.h"
@@ -26,9 +27,9 @@ constexpr ComponentClass row() {
 }
 
 constexpr ComponentClass CLASSES[] = {
-    row<LuPanelix>(),         row<LuTopComponent>(),   row<LuDialogComponent>(), row<LuDialogGroup>(),
-    row<LuColumnDialog>(),    row<LuRowDialog>(),      row<LuDialogLabel>(),     row<LuDialogPushButton>(),
-    row<LuDialogSeparator>(), row<LuTopLevelDialog>(),
+    row<LuPanelix>(),          row<LuTopComponent>(),    row<LuDialogComponent>(), row<LuDialogCheckBox>(),
+    row<LuDialogGroup>(),      row<LuColumnDialog>(),    row<LuRowDialog>(),       row<LuDialogLabel>(),
+    row<LuDialogPushButton>(), row<LuDialogSeparator>(), row<LuTopLevelDialog>(),
 };
 
 } // namespace
@@ -46,6 +47,7 @@ void luExitComponentClasses() {
 
 void luChangeSkinOfComponentClasses() {
     LuDialogComponent::change3DSkin();
+    LuDialogCheckBox::change3DSkin();
     LuDialogPushButton::change3DSkin();
     LuDialogSeparator::change3DSkin();
     LuTopLevelDialog::change3DSkin();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "auditors/LuDialogAuditor.h"
 #include "auditors/LuDialogPushButtonAuditor.h"
+#include "controls/LuDialogCheckBox.h"
 #include "controls/LuDialogLabel.h"
 #include "controls/LuDialogPushButton.h"
 #include "layout/LuRowDialog.h"
@@ -249,6 +250,21 @@ TEST_F(LuAuditorClimbTest, nobodyListensAndTheSettingIsThere_oneMessageSaysWhatW
     EXPECT_EQ(getPostedInfos()[0].text,
               "WARNING ! The DialogAuditor does not define the LuDialogPushButton component :"
               "\n\t\t -> label \"Here:\"\n\t\t -> buttonLabel \"inside\"");
+}
+
+TEST_F(LuAuditorClimbTest, nobodyListensToACheckBox_theMessageSaysItsTexts) {
+    LuPreferences::setString("DEBUG_PANELIX_AUDITORS", "1");
+    auto* const box = new LuDialogCheckBox;
+    box->label = "Here:";
+    box->onString = "yes";
+    box->offString = "no";
+    m_group->addChild(box);
+    box->applyDlgCptAuditor();
+    ASSERT_EQ(getPostedInfos().size(), 1u);
+    EXPECT_EQ(getPostedInfos()[0].where, "LuDialogAuditor::dialogCheckBox");
+    EXPECT_EQ(getPostedInfos()[0].text,
+              "WARNING ! The DialogAuditor does not define the LuDialogCheckBox component :"
+              "\n\t\t -> label \"Here:\"\n\t\t -> onString \"yes\"\n\t\t -> offString \"no\"");
 }
 
 TEST_F(LuAuditorClimbTest, auditorThatOverridesNothing_takesTheEventAndSaysSo) {

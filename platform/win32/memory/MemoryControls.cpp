@@ -27,6 +27,7 @@ void uncheckGroup(LuMemoryWindow& window) {
             sendMessage(*w, BM_SETCHECK, BST_UNCHECKED, 0);
 }
 
+/// The end of a press on a button: its check, if it has one, changes before it gives the capture back.
 void click(LuMemoryWindow& window) {
     const UINT check = window.state & checkMask;
     const HWND handle = getHandle(&window);
@@ -45,6 +46,7 @@ void click(LuMemoryWindow& window) {
     default:
         break;
     }
+    ReleaseCapture();
     if (findMemoryWindow(handle))
         notifyParent(window, BN_CLICKED);
 }
@@ -68,7 +70,6 @@ void press(LuMemoryWindow& window, bool takesFocus) {
 }
 
 void release(LuMemoryWindow& window, bool isHit) {
-    const HWND handle = getHandle(&window);
     if (!(window.state & buttonHeld))
         return;
     window.state &= ~buttonHeld;
@@ -78,9 +79,10 @@ void release(LuMemoryWindow& window, bool isHit) {
     }
     if (!sendAndCheck(window, BM_SETSTATE, FALSE, 0))
         return;
-    ReleaseCapture();
-    if (isHit && findMemoryWindow(handle))
+    if (isHit)
         click(window);
+    else
+        ReleaseCapture();
 }
 
 void cancelPress(LuMemoryWindow& window) {

@@ -130,6 +130,73 @@ TEST_F(WindowControl, autoCheckBox_turnsAtEachClick) {
     EXPECT_THAT(takeLog(), ElementsAre());
 }
 
+/// A parent with an automatic check box that writes its messages down.
+class WindowCheckBox : public WindowControl {
+protected:
+    void SetUp() override {
+        WindowControl::SetUp();
+        m_box = createButton("box", m_parent, {0, 30, 80, 50},
+                             WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_MULTILINE | BS_AUTOCHECKBOX);
+        SetWindowLongPtrA(m_box, GWLP_ID, 13);
+        subclass(m_box);
+        takeLog();
+    }
+
+    LRESULT getCheck() { return SendMessageA(m_box, BM_GETCHECK, 0, 0); }
+
+    HWND m_box = nullptr;
+};
+
+TEST_F(WindowCheckBox, click_checksBeforeItNotifies) {
+    SendMessageA(m_box, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    EXPECT_EQ(getCheck(), BST_UNCHECKED);
+    takeLog();
+    SendMessageA(m_box, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    EXPECT_THAT(takeLog(), ElementsAre("box:LBUTTONUP", "box:BM_SETSTATE(0)", "box:BM_SETCHECK(1)",
+                                       "box:CAPTURECHANGED(none)", "parent:COMMAND(13,0,box)"));
+    EXPECT_EQ(getCheck(), BST_CHECKED);
+    EXPECT_EQ(SendMessageA(m_box, BM_GETSTATE, 0, 0), BST_CHECKED | BST_FOCUS);
+}
+
+TEST_F(WindowCheckBox, pressDraggedOff_leavesTheCheck) {
+    SendMessageA(m_box, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessageA(m_box, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(500, 5));
+    takeLog();
+    SendMessageA(m_box, WM_LBUTTONUP, 0, MAKELPARAM(500, 5));
+    EXPECT_THAT(takeLog(), ElementsAre("box:LBUTTONUP", "box:CAPTURECHANGED(none)"));
+    EXPECT_EQ(getCheck(), BST_UNCHECKED);
+}
+
+TEST_F(WindowCheckBox, spaceKey_turnsTheCheckWhenItGoesUp) {
+    SetFocus(m_box);
+    SendMessageA(m_box, WM_KEYDOWN, VK_SPACE, 0);
+    EXPECT_EQ(getCheck(), BST_UNCHECKED);
+    takeLog();
+    SendMessageA(m_box, WM_KEYUP, VK_SPACE, 0);
+    EXPECT_THAT(takeLog(), ElementsAre("box:BM_SETSTATE(0)", "box:BM_SETCHECK(1)", "box:CAPTURECHANGED(none)",
+                                       "parent:COMMAND(13,0,box)"));
+    EXPECT_EQ(getCheck(), BST_CHECKED);
+}
+
+TEST_F(WindowCheckBox, setCheck_notifiesNobodyAndKnowsTwoStates) {
+    SendMessageA(m_box, BM_SETCHECK, BST_INDETERMINATE, 0);
+    EXPECT_EQ(getCheck(), BST_CHECKED);
+    SendMessageA(m_box, BM_SETCHECK, BST_UNCHECKED, 0);
+    EXPECT_EQ(getCheck(), BST_UNCHECKED);
+    EXPECT_THAT(takeLog(), ElementsAre("box:BM_SETCHECK(2)", "box:BM_SETCHECK(0)"));
+}
+
+TEST_F(WindowCheckBox, setCheck_leavesTheStyle) {
+    const LONG_PTR style = GetWindowLongPtrA(m_box, GWL_STYLE);
+    SendMessageA(m_box, BM_SETCHECK, BST_CHECKED, 0);
+    SendMessageA(m_box, BM_SETCHECK, BST_UNCHECKED, 0);
+    EXPECT_EQ(GetWindowLongPtrA(m_box, GWL_STYLE), style);
+}
+
+TEST_F(WindowCheckBox, dialogCode_isThatOfAButton) {
+    EXPECT_EQ(SendMessageA(m_box, WM_GETDLGCODE, 0, 0), DLGC_BUTTON);
+}
+
 TEST_F(WindowControl, pushButton_keepsNoCheck) {
     SendMessageA(m_button, BM_SETCHECK, BST_CHECKED, 0);
     EXPECT_EQ(SendMessageA(m_button, BM_GETCHECK, 0, 0), BST_UNCHECKED);
