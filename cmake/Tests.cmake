@@ -21,7 +21,8 @@ else()
     list(APPEND host ${native})
 endif()
 # What programs say and print, without their main.
-list(APPEND sources ${CMAKE_SOURCE_DIR}/apps/view/SkinChoice.cpp ${CMAKE_SOURCE_DIR}/apps/view/TreePrinter.cpp)
+list(APPEND sources ${CMAKE_SOURCE_DIR}/apps/view/EventPrinter.cpp ${CMAKE_SOURCE_DIR}/apps/view/SkinChoice.cpp
+    ${CMAKE_SOURCE_DIR}/apps/view/TreePrinter.cpp)
 list(APPEND sources ${host})
 list(REMOVE_DUPLICATES sources)
 
