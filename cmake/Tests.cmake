@@ -9,7 +9,7 @@ add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM
 file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/*Test.cpp)
 list(FILTER sources EXCLUDE REGEX "/tests/(desktop|fuzz)/")
 file(GLOB host CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/*.cpp ${CMAKE_SOURCE_DIR}/tests/twin/*.cpp
-    ${CMAKE_SOURCE_DIR}/tests/random/*.cpp)
+    ${CMAKE_SOURCE_DIR}/tests/pictures/*.cpp ${CMAKE_SOURCE_DIR}/tests/random/*.cpp)
 # For each case of tests/random; real windows take their time.
 set(randomActions 100000)
 if(WIN32)
@@ -21,7 +21,11 @@ else()
     list(APPEND host ${native})
 endif()
 # What programs say and print, without their main.
-list(APPEND sources ${CMAKE_SOURCE_DIR}/apps/view/SkinChoice.cpp ${CMAKE_SOURCE_DIR}/apps/view/TreePrinter.cpp)
+list(APPEND sources ${CMAKE_SOURCE_DIR}/apps/view/EventPrinter.cpp ${CMAKE_SOURCE_DIR}/apps/view/SkinChoice.cpp
+    ${CMAKE_SOURCE_DIR}/apps/view/TreePrinter.cpp)
+# The control of an example.
+file(GLOB stepper CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/examples/custom-control/Stepper*.cpp)
+list(APPEND sources ${stepper})
 list(APPEND sources ${host})
 list(REMOVE_DUPLICATES sources)
 

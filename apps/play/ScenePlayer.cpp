@@ -60,8 +60,10 @@ void ScenePlayer::pointAt(const LvVec3f& place) {
     const LvVec2i32 size = m_action.getViewportRegion().getSize();
     const LvVec3f seen = m_camera->getViewVolume(m_action.getViewportRegion().getAspectRatio())
                              .projectToScreen(m_toWorld.transformPoint(place));
-    m_pixel.setValue(static_cast<int>(std::lround(seen.x * static_cast<float>(size.x) - 0.5F)),
-                     static_cast<int>(std::lround(seen.y * static_cast<float>(size.y) - 0.5F)));
+    // What lies between two pixels is the same one's each time, whatever the rounding before.
+    constexpr float SLACK = 0.01F;
+    m_pixel.setValue(static_cast<int>(std::floor(seen.x * static_cast<float>(size.x) + SLACK)),
+                     static_cast<int>(std::floor(seen.y * static_cast<float>(size.y) + SLACK)));
 }
 
 bool ScenePlayer::press(LuPanelix& component, const std::string& part) {

@@ -39,6 +39,8 @@ HWND getEnabledWindow(HWND window) {
     return window;
 }
 
+bool isMinimised(HWND window) { return (GetWindowLongPtrA(window, GWL_STYLE) & WS_MINIMIZE) != 0; }
+
 void send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     PostMessageA(window, message, wParam, lParam);
     LuWin::processMessages();
@@ -93,8 +95,8 @@ void WindowPlayer::moveBy(const LvVec2i32& offset) {
 }
 
 void WindowPlayer::release() {
-    if (m_minimised)
-        send(m_minimised, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    if (m_minimised) // The same button restores.
+        send(m_minimised, WM_SYSCOMMAND, isMinimised(m_minimised) ? SC_RESTORE : SC_MINIMIZE, 0);
     else if (!m_frame)
         sendMouse(WM_LBUTTONUP, 0);
     m_minimised = m_frame = m_pressed = nullptr;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "apps/view/EventPrinter.h"
 
+#include "controls/LuDialogCheckBox.h"
 #include "controls/LuDialogPushButton.h"
 
 #include <cstdio>
@@ -18,4 +19,8 @@ void printEvent(const char* operation, const LuPanelix& component, const LvStrin
 
 void EventPrinter::dialogPushButton(LuDialogPushButton* button) {
     printEvent("dialogPushButton", *button, button->buttonLabel.getValue());
+}
+
+void EventPrinter::dialogCheckBox(LuDialogCheckBox* checkBox) {
+    printEvent("dialogCheckBox", *checkBox, checkBox->state.getText());
 }

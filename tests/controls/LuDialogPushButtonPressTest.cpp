@@ -178,6 +178,58 @@ TEST_F(LuDialogPushButtonPressTest, labelAndSeparator_leaveAPressToThePanelWhich
     EXPECT_EQ(m_dialog->position3D.getValue(), LvVec3f());
 }
 
+// A controller in the hand, instead of the mouse
+
+TEST_F(LuDialogPushButtonPressTest, controllerAlone_operatesTheWholePanel) {
+    // To the right of the panel, and turned towards what is to be operated.
+    const LvVec3f hand(350, -60, 400);
+    const auto aimAt = [&](const LvVec3f& place) { return LvLine::fromPoints(hand, place); };
+    const auto aimAtButton = [&] { return aimAt(m_scene.getMiddle(*m_button, "frameSep")); };
+
+    EXPECT_TRUE(m_scene.trackerButton(LuButtonEvent::DOWN, aimAtButton()));
+    EXPECT_EQ(getShown(*m_button), 1);
+    EXPECT_EQ(LuPanelix::get3DCurrentActive(), m_button.get());
+    m_scene.trackerMove(aimAt({0, 400, 0}));
+    EXPECT_EQ(m_presses.m_count, 0);
+    EXPECT_TRUE(m_scene.trackerButton(LuButtonEvent::UP, aimAt({0, 400, 0})));
+    EXPECT_EQ(getShown(*m_button), 0);
+    EXPECT_EQ(m_presses.m_count, 1);
+
+    const LvVec3f grip(100, -12, 1);
+    EXPECT_TRUE(m_scene.trackerButton(LuButtonEvent::DOWN, aimAt(grip)));
+    EXPECT_EQ(LuPanelix::get3DCurrentActive(), m_dialog.get());
+    m_scene.trackerMove(aimAt(grip + LvVec3f(-40, 25, 0)));
+    m_scene.trackerButton(LuButtonEvent::UP, aimAt(grip + LvVec3f(-40, 25, 0)));
+    const LvVec3f& corner = m_dialog->position3D.getValue();
+    EXPECT_NEAR(corner.x, -40, 0.01F);
+    EXPECT_NEAR(corner.y, -25, 0.01F);
+    EXPECT_EQ(corner.z, 0);
+
+    // The button has come along.
+    m_scene.trackerButton(LuButtonEvent::DOWN, aimAtButton());
+    m_scene.trackerButton(LuButtonEvent::UP, aimAtButton());
+    EXPECT_EQ(m_presses.m_count, 2);
+
+    const LvLine minimise = aimAt(m_scene.getMiddle(*m_dialog, "minSep"));
+    m_scene.trackerButton(LuButtonEvent::DOWN, minimise);
+    m_scene.trackerButton(LuButtonEvent::UP, minimise);
+    EXPECT_TRUE(m_dialog->minimized.getValue());
+}
+
+TEST_F(LuDialogPushButtonPressTest, controllerThatPointsBesideThePanel_operatesNothing) {
+    const LvLine beside = LvLine::fromPoints({0, 0, 400}, {-200, 100, 0});
+    EXPECT_FALSE(m_scene.trackerButton(LuButtonEvent::DOWN, beside));
+    EXPECT_FALSE(m_scene.trackerButton(LuButtonEvent::UP, beside));
+    EXPECT_EQ(m_presses.m_count, 0);
+}
+
+TEST_F(LuDialogPushButtonPressTest, controllerThatPointsAwayFromThePanel_operatesNothing) {
+    const LvVec3f hand(0, 0, 400);
+    const LvVec3f way = m_scene.getMiddle(*m_button, "frameSep") - hand;
+    EXPECT_FALSE(m_scene.trackerButton(LuButtonEvent::DOWN, LvLine::fromPoints(hand, hand - way)));
+    EXPECT_EQ(getShown(*m_button), 0);
+}
+
 // What the auditors may do
 
 TEST_F(LuDialogPushButtonPressTest, buttonRemovedByItsAuditor_isSafe) {

@@ -5,40 +5,14 @@
 #include "layout/LuColumnDialog.h"
 #include "layout/LuRowDialog.h"
 #include "platform/lumora/nodes/LuGroup.h"
-#include "platform/lumora/nodes/LuText3.h"
 #include "platform/lumora/win/LuWin.h"
+#include "tests/random/RandomCheckBox.h"
 #include "tests/random/RandomPanel.h"
+#include "tests/random/RandomTexts.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-using Lines = std::vector<std::string>;
-
-std::string convert(const LvString& text) { return LuPanelix::convertToCString(text, nullptr).str(); }
-
-Lines split(const std::string& text) {
-    Lines lines(1);
-    for (const char character : text) {
-        if (character == '\n')
-            lines.emplace_back();
-        else
-            lines.back() += character;
-    }
-    return lines;
-}
-
-/// The lines of the text that comes last in a part.
-Lines getLines(LuDialogComponent& component, const char* part) {
-    const auto* const group = static_cast<LuGroup*>(component.getPart(part, false));
-    LuNode* const last = group ? group->getChild(group->getNumChildren() - 1) : nullptr;
-    Lines lines;
-    if (last && last->isOfType(LuText3::getClassTypeId())) {
-        for (const LvString& line : static_cast<LuText3*>(last)->string.getValues())
-            lines.push_back(line.str());
-    }
-    return lines;
-}
 
 class RandomGroup : public RandomComponent {
 public:
@@ -97,7 +71,7 @@ public:
     void windowsBuilt() override {
         RandomComponent::windowsBuilt();
         m_isTextEnabled = m_isEnabledInWindows;
-        m_windowText = convert(m_label.label.getValue());
+        m_windowText = convertRandomText(m_label.label.getValue());
     }
     void sceneBuilt() override {
         RandomComponent::sceneBuilt();
@@ -124,7 +98,7 @@ protected:
         m_isTextEnabled = m_isEnabledInWindows;
     }
     void labelChanged() override {
-        m_windowText = convert(m_label.label.getValue());
+        m_windowText = convertRandomText(m_label.label.getValue());
         takeSceneText();
     }
 
@@ -133,18 +107,18 @@ protected:
 
 private:
     void takeSceneText() {
-        m_sceneText = convert(m_label.label.getValue());
+        m_sceneText = convertRandomText(m_label.label.getValue());
         // A text of ours is never wider.
         constexpr int ROOMY = 150;
         m_isWrapped = m_label.width.getValue() < ROOMY;
     }
     void checkSceneText() {
-        const Lines shown = getLines(m_label, "labelSep");
+        const Lines shown = getShownLines(m_label, "labelSep");
         if (m_isWrapped) {
             for (const std::string& line : shown)
                 EXPECT_NE(m_sceneText.find(line), std::string::npos) << getName() << " shows " << line;
         } else {
-            EXPECT_EQ(shown, split(m_sceneText)) << getName();
+            EXPECT_EQ(shown, splitLines(m_sceneText)) << getName();
         }
     }
 
@@ -164,7 +138,7 @@ public:
         RandomComponent::addActions(actions);
         actions.push_back({"buttonLabel " + getName(), 3, [this] {
                                m_button.buttonLabel.setValue(m_panel.getRandom().from(RANDOM_TEXTS));
-                               m_windowText = convert(m_button.buttonLabel.getValue());
+                               m_windowText = convertRandomText(m_button.buttonLabel.getValue());
                                takeSceneText();
                            }});
         actions.push_back({"press the frame of " + getName(), 10,
@@ -177,8 +151,8 @@ public:
 
     void windowsBuilt() override {
         RandomComponent::windowsBuilt();
-        m_windowText = convert(m_button.buttonLabel.getValue());
-        m_windowLabel = convert(m_button.label.getValue());
+        m_windowText = convertRandomText(m_button.buttonLabel.getValue());
+        m_windowLabel = convertRandomText(m_button.label.getValue());
     }
     void sceneBuilt() override {
         RandomComponent::sceneBuilt();
@@ -241,14 +215,14 @@ public:
             return;
         const auto* const look = static_cast<LuSwitch*>(m_button.getPart("frameSwitch", false));
         EXPECT_EQ(look->whichChild.getValue(), m_isPressedInScene ? 1 : 0) << getName();
-        EXPECT_EQ(getLines(m_button, "buttonLabelSep"), m_sceneText) << getName();
-        EXPECT_EQ(getLines(m_button, "labelSwitch"), Lines{m_sceneLabel}) << getName();
+        EXPECT_EQ(getShownLines(m_button, "buttonLabelSep"), m_sceneText) << getName();
+        EXPECT_EQ(getShownLines(m_button, "labelSwitch"), Lines{m_sceneLabel}) << getName();
     }
 
 protected:
     /// With geometry in the scene a button takes notice of the text on it, and of no other field.
     bool seesCommonFields() const override { return !m_panel.hasScene(); }
-    void labelChanged() override { m_windowLabel = convert(m_button.label.getValue()); }
+    void labelChanged() override { m_windowLabel = convertRandomText(m_button.label.getValue()); }
 
     /// The native label is made anew in its style, with the enabling of the field.
     void alignmentChanged() override { m_isEnabledInWindows = isEnableSet(); }
@@ -261,12 +235,8 @@ private:
         m_panel.expectCall("dialogPushButton " + getName() + " " + m_button.buttonLabel.getValue().str());
     }
 
-    /// The lines are written over those that are there: what was longer keeps its last ones.
     void takeSceneText() {
-        const Lines lines = split(convert(m_button.buttonLabel.getValue()));
-        if (m_sceneText.size() < lines.size())
-            m_sceneText.resize(lines.size());
-        std::copy(lines.begin(), lines.end(), m_sceneText.begin());
+        overwriteLines(m_sceneText, splitLines(convertRandomText(m_button.buttonLabel.getValue())));
     }
 
     LuDialogPushButton& m_button;
@@ -292,6 +262,7 @@ std::unique_ptr<RandomComponent> makeRandomComponent(RandomPanel& panel, LuDialo
     const std::pair<LuType, Make> table[] = {
         {LuColumnDialog::getClassTypeId(), make<RandomGroup, LuDialogGroup>},
         {LuRowDialog::getClassTypeId(), make<RandomGroup, LuDialogGroup>},
+        {LuDialogCheckBox::getClassTypeId(), make<RandomCheckBox, LuDialogCheckBox>},
         {LuDialogLabel::getClassTypeId(), make<RandomLabel, LuDialogLabel>},
         {LuDialogPushButton::getClassTypeId(), make<RandomPushButton, LuDialogPushButton>},
         {LuDialogSeparator::getClassTypeId(), make<RandomSeparator, LuDialogSeparator>},

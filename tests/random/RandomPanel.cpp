@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/random/RandomPanel.h"
 
+#include "controls/LuDialogCheckBox.h"
 #include "controls/LuDialogPushButton.h"
 #include "platform/lumora/io/LuDB.h"
 #include "platform/lumora/nodes/LuText3.h"
@@ -23,6 +24,10 @@ public:
     void dialogPushButton(LuDialogPushButton* button) override {
         m_calls.push_back("dialogPushButton " + button->auditorID.getValue().str() + " " +
                           button->buttonLabel.getValue().str());
+    }
+    void dialogCheckBox(LuDialogCheckBox* checkBox) override {
+        m_calls.push_back("dialogCheckBox " + checkBox->auditorID.getValue().str() + " " +
+                          checkBox->state.getText().str());
     }
 
 private:

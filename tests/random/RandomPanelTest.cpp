@@ -16,6 +16,7 @@ TopLevelDialog {
     DialogLabel { auditorID "text" label "A text" }
     DialogPushButton { auditorID "alone" label "Alone" buttonLabel "Alone" }
     DialogSeparator { auditorID "line" }
+    DialogCheckBox { auditorID "check" label "Check" onString "Checked" offString "Not" state TRUE }
     RowDialog {
         auditorID "row"
         DialogPushButton { auditorID "first" label "One" buttonLabel "First" }
@@ -24,6 +25,7 @@ TopLevelDialog {
             auditorID "column"
             DialogPushButton { auditorID "inner" label "Three" buttonLabel "Inner" enable FALSE }
             DialogLabel { auditorID "note" label "Note" labelAlignment LEFT }
+            DialogCheckBox { auditorID "deep" labelVisibility FALSE onString "Deep" }
         }
     }
 }

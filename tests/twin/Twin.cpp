@@ -4,6 +4,7 @@
 #include "apps/play/ScenePlayer.h"
 #include "apps/play/WindowPlayer.h"
 #include "auditors/LuDialogAuditor.h"
+#include "controls/LuDialogCheckBox.h"
 #include "controls/LuDialogPushButton.h"
 #include "layout/LuTopLevelDialog.h"
 #include "platform/lumora/io/LuDB.h"
@@ -25,6 +26,9 @@ public:
     explicit Recorder(std::vector<std::string>& calls) : m_calls(calls) {}
     void dialogPushButton(LuDialogPushButton* button) override {
         record("dialogPushButton", *button, button->buttonLabel.getValue());
+    }
+    void dialogCheckBox(LuDialogCheckBox* checkBox) override {
+        record("dialogCheckBox", *checkBox, checkBox->state.getText());
     }
 
 private:

@@ -10,8 +10,12 @@ void limitToTrackSize(LuMemoryWindow& window, WINDOWPOS& position) {
     if ((position.flags & SWP_NOSIZE) || !hasSizeLimits(window))
         return;
     const MINMAXINFO limits = getMinMaxInfo(window);
-    position.cx = std::max<int>(std::min<int>(position.cx, limits.ptMaxTrackSize.x), limits.ptMinTrackSize.x);
-    position.cy = std::max<int>(std::min<int>(position.cy, limits.ptMaxTrackSize.y), limits.ptMinTrackSize.y);
+    position.cx = std::min<int>(position.cx, limits.ptMaxTrackSize.x);
+    position.cy = std::min<int>(position.cy, limits.ptMaxTrackSize.y);
+    if (window.style & WS_MINIMIZE)
+        return;
+    position.cx = std::max<int>(position.cx, limits.ptMinTrackSize.x);
+    position.cy = std::max<int>(position.cy, limits.ptMinTrackSize.y);
 }
 
 void announceChange(LuMemoryWindow& window, const WINDOWPOS& position) {
@@ -23,10 +27,44 @@ void announceChange(LuMemoryWindow& window, const WINDOWPOS& position) {
         sendSize(window);
 }
 
+/// Makes the window a small bar at the lower left corner of the screen, or a window again.
+void changeMinimized(LuMemoryWindow& window, bool isMinimized) {
+    constexpr int barWidth = 160, barHeight = 24;
+    if (isMinimized == ((window.style & WS_MINIMIZE) != 0))
+        return;
+    RECT place = window.normalRect;
+    if (isMinimized) {
+        const int bottom = GetSystemMetrics(SM_CYSCREEN);
+        window.normalRect = window.rect;
+        window.style |= WS_MINIMIZE;
+        place = {0, bottom - barHeight, barWidth, bottom};
+    } else {
+        window.style &= ~WS_MINIMIZE;
+    }
+    const HWND handle = getHandle(&window);
+    const bool isThere = placeWindow(
+        window, {handle, nullptr, static_cast<int>(place.left), static_cast<int>(place.top),
+                 static_cast<int>(place.right - place.left), static_cast<int>(place.bottom - place.top),
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED});
+    if (isThere && !isMinimized && findMemoryWindow(handle))
+        SetFocus(handle);
+}
+
 LRESULT handleSysCommand(LuMemoryWindow& window, WPARAM wParam) {
     constexpr WPARAM commandMask = 0xfff0;
-    if ((wParam & commandMask) == SC_CLOSE)
+    switch (wParam & commandMask) {
+    case SC_CLOSE:
         sendMessage(window, WM_CLOSE, 0, 0);
+        break;
+    case SC_MINIMIZE:
+        changeMinimized(window, true);
+        break;
+    case SC_RESTORE:
+        changeMinimized(window, false);
+        break;
+    default:
+        break;
+    }
     return 0;
 }
 

@@ -201,7 +201,7 @@ BOOL ShowWindow(HWND handle, int command) {
     const bool show = command != SW_HIDE;
     if (show == wasVisible)
         return wasVisible;
-    // Windows have no minimized and maximized states here: to show is all that those commands do.
+    // Here only the system menu minimises, and nothing maximises: to show is all that those commands do.
     const bool activates = command == SW_SHOW || command == SW_SHOWNORMAL || command == SW_RESTORE ||
                            command == SW_SHOWMAXIMIZED;
     const bool isChild = isChildStyle(window->style);

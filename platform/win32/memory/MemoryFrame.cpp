@@ -37,6 +37,11 @@ DWORD fixExStyle(DWORD style, DWORD exStyle) {
 }
 
 void subtractFrame(const LuMemoryWindow& window, RECT& rect) {
+    if (window.style & WS_MINIMIZE) {
+        rect.right = rect.left;
+        rect.bottom = rect.top;
+        return;
+    }
     const int border = getBorder(window.style, window.exStyle) + getClientEdge(window.exStyle);
     rect.left += border;
     rect.right -= border;

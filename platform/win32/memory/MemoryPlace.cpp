@@ -138,7 +138,7 @@ bool tellPlaced(LuMemoryWindow& window, WINDOWPOS& position) {
 
 void sendSize(LuMemoryWindow& window) {
     sendMessage(
-        window, WM_SIZE, SIZE_RESTORED,
+        window, WM_SIZE, window.style & WS_MINIMIZE ? SIZE_MINIMIZED : SIZE_RESTORED,
         packPoint(window.client.right - window.client.left, window.client.bottom - window.client.top));
 }
 

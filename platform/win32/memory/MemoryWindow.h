@@ -35,6 +35,7 @@ struct LuMemoryWindow {
     HWND handle = nullptr; ///< The slot of the window, and how often it has been used.
     DWORD style = 0, exStyle = 0;
     RECT rect{}, client{};
+    RECT normalRect{}; ///< Where it stands when it is no longer minimised.
     WNDPROC procedure = nullptr;
     LONG_PTR userData = 0, id = 0;
     LuMemoryWindow* parent = nullptr;

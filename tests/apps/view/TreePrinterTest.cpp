@@ -190,6 +190,24 @@ TEST_F(TreePrinterTest, windows_areVisibleOnceTheDialogShows) {
     EXPECT_TRUE(findById(tree, "yes")["windows"][0]["visible"].boolean);
 }
 
+TEST_F(TreePrinterTest, checkBox_showsItsStateAndTheTextOfItsWindow) {
+    auto* const dialog = read<LuTopLevelDialog>("TopLevelDialog { DialogCheckBox { auditorID \"fog\" state "
+                                                "TRUE onString \"Thick\" offString \"None\" } }");
+    dialog->buildDialog(nullptr, 0);
+    const auto json = Json::parse(printTreeAsJson(*dialog));
+    ASSERT_TRUE(json);
+    const Json fog = findById(*json, "fog");
+    EXPECT_EQ(fog["type"].text, "DialogCheckBox");
+    EXPECT_EQ(fog["fields"]["state"]["value"].text, "TRUE");
+    EXPECT_EQ(fog["fields"]["offString"]["value"].text, "\"None\"");
+    Keys texts;
+    for (const Json& window : fog["windows"].items) {
+        if (window["class"].text == "Button")
+            texts.push_back(window["text"].text);
+    }
+    EXPECT_EQ(texts, Keys({"Thick"}));
+}
+
 TEST_F(TreePrinterTest, componentWithoutWindows_hasNone) {
     const Held<LuDialogLabel> label;
     const auto json = Json::parse(printTreeAsJson(*label));

@@ -271,6 +271,35 @@ TEST_F(WindowPlace, titleBarInfoWithoutItsSize_isRefused) {
     EXPECT_FALSE(GetTitleBarInfo(window, &info));
 }
 
+TEST_F(WindowPlace, minimisedWindow_isASmallBarUntilItIsRestored) {
+    static WPARAM s_kind;
+    s_kind = SIZE_RESTORED;
+    HWND window = create("frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, nullptr, 0, {40, 50, 440, 350});
+    HWND child = createChild("child", window, {1, 2, 31, 42});
+    m_answer = [](HWND, UINT message, WPARAM wParam, LPARAM lParam, bool& isAnswered) -> LRESULT {
+        if (message == WM_SIZE)
+            s_kind = wParam;
+        isAnswered = message == WM_GETMINMAXINFO;
+        if (isAnswered)
+            reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {200, 100};
+        return 0;
+    };
+    const SIZE before = clientSizeOf(window);
+    for (int i = 0; i < 2; ++i) {
+        SendMessageA(window, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+        const RECT bar = rectOf(window);
+        EXPECT_EQ(bar.right - bar.left, 160);
+        EXPECT_EQ(bar.bottom - bar.top, 24);
+        EXPECT_EQ(clientSizeOf(window), (SIZE{0, 0}));
+        EXPECT_EQ(s_kind, WPARAM{SIZE_MINIMIZED});
+        EXPECT_TRUE(IsWindowVisible(child));
+    }
+    SendMessageA(window, WM_SYSCOMMAND, SC_RESTORE, 0);
+    EXPECT_EQ(rectOf(window), (RECT{40, 50, 440, 350}));
+    EXPECT_EQ(clientSizeOf(window), before);
+    EXPECT_EQ(s_kind, WPARAM{SIZE_RESTORED});
+}
+
 TEST_F(WindowPlace, pointInNestedWindows_isFoundOnTheScreenAndInTheParent) {
     HWND top = createTop();
     HWND parent = createChild("parent", top, {10, 10, 210, 210});

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+// How panels look: seen from the front as in the pictures of this folder, and close up.
+#include "controls/LuDialogPushButton.h"
+#include "platform/lumora/gl/LuOffscreenRenderer.h"
+#include "platform/lumora/nodes/LuCamera.h"
+#include "tests/layout/DialogTest.h"
+#include "tests/pictures/Reference.h"
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+constexpr const char* PANEL = R"(
+TopLevelDialog {
+    label "A panel"
+    width 240
+    height 180
+    margin 4
+    rowSpacing 4
+    DialogLabel { label "A text" }
+    DialogPushButton { label "Released" buttonLabel "Press" }
+    DialogPushButton { auditorID "pressed" label "Pressed" buttonLabel "Held" }
+    DialogSeparator { }
+    RowDialog {
+        enable FALSE
+        DialogPushButton { labelVisibility FALSE buttonLabel "Disabled" }
+        DialogPushButton { labelVisibility FALSE edgeStyle SHADOW_IN buttonLabel "Sunk" }
+    }
+}
+)";
+
+class PanelPictureTest : public DialogTest {
+protected:
+    ~PanelPictureTest() override { LuPanelix::setSkin("default"); }
+
+    /// The panel from the front, a unit a pixel, on a dark blue.
+    LuPicture drawFromFront(LuTopLevelDialog* dialog) {
+        buildIn3D(dialog);
+        LuOffscreenRenderer renderer;
+        renderer.setSize(dialog->width.getValue(), dialog->height.getValue());
+        renderer.setBackground({0.1F, 0.1F, 0.3F});
+        renderer.lookFromFront(0, 0);
+        LuPicture picture;
+        EXPECT_TRUE(renderer.render(dialog, picture));
+        return picture;
+    }
+    LuPicture drawPanel() {
+        auto* const dialog = read<LuTopLevelDialog>(PANEL);
+        buildIn3D(dialog);
+        static_cast<LuDialogPushButton*>(dialog->searchForAuditorId("pressed"))->change3DButtonState(1);
+        return drawFromFront(dialog);
+    }
+};
+
+TEST_F(PanelPictureTest, panelOfTheDefaultSkin_looksAsInItsPicture) {
+    expectLikeReference(drawPanel(), "panel-default");
+}
+
+TEST_F(PanelPictureTest, panelOfTheSlateSkin_looksAsInItsPicture) {
+    LuPanelix::setSkin("slate");
+    expectLikeReference(drawPanel(), "panel-slate");
+}
+
+TEST_F(PanelPictureTest, minimisedPanel_looksAsInItsPicture) {
+    auto* const dialog = read<LuTopLevelDialog>(PANEL);
+    buildIn3D(dialog);
+    dialog->minimized = true;
+    LuPicture picture = drawFromFront(dialog);
+    // The strip and a little below it.
+    LuPicture strip(picture.getWidth(), 30);
+    std::copy_n(picture.getPixels().begin(), strip.getPixels().size(), strip.getPixels().begin());
+    expectLikeReference(strip, "panel-minimised");
+}
+
+TEST_F(PanelPictureTest, referenceOfAnotherPanel_isNotTakenForThisOne) {
+    // What the comparison is worth: the two skins differ by more than it forgives.
+    const LuPicture slate = readPng("tests/pictures/panel-slate.png");
+    ASSERT_FALSE(slate.isEmpty());
+    EXPECT_NE(compareWithReference(slate, "panel-default").find("pixels are not those of"),
+              std::string::npos);
+}
+
+/// The levels of green that a picture has between the dark of a text and the light of what it stands on.
+std::set<int> getMiddleLevels(const LuPicture& picture) {
+    constexpr int DARK = 30, LIGHT = 100;
+    std::set<int> levels;
+    for (const LuPicture::Pixel& pixel : picture.getPixels()) {
+        if (pixel.green > DARK && pixel.green < LIGHT)
+            levels.insert(pixel.green);
+    }
+    return levels;
+}
+
+TEST_F(PanelPictureTest, tiltedTextCloseUp_hasSmoothOutlines) {
+    const Held<LuSeparator> scene;
+    auto* const camera = new LuPerspectiveCamera;
+    scene->addChild(camera);
+    auto* const dialog = read<LuTopLevelDialog>("TopLevelDialog { width 120 height 60 DialogPushButton { "
+                                                "labelVisibility FALSE buttonLabel \"Sage\" } }");
+    scene->addChild(dialog);
+    buildIn3D(scene.get());
+    // From below and from the left, a few units away from the text.
+    camera->position.setValue({45, -60, 24});
+    camera->pointAt({60, -39, 3});
+    camera->nearDistance.setValue(1);
+    camera->farDistance.setValue(500);
+    const auto draw = [&](int samples) {
+        LuOffscreenRenderer renderer;
+        renderer.setSize(300, 300);
+        renderer.setSamples(samples);
+        LuPicture picture;
+        EXPECT_TRUE(renderer.render(scene.get(), picture));
+        return picture;
+    };
+    // With one sample a pixel is the text or what it stands on.
+    EXPECT_EQ(getMiddleLevels(draw(1)).size(), 0U);
+    EXPECT_GE(getMiddleLevels(draw(4)).size(), 3U);
+}
+
+} // namespace
