@@ -19,6 +19,8 @@ if(WIN32)
 else()
     file(GLOB native CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/native/*.cpp)
     list(APPEND host ${native})
+    # What the screen shows.
+    list(FILTER sources EXCLUDE REGEX "/tests/controls/windows/")
 endif()
 # What programs say and print, without their main.
 list(APPEND sources ${CMAKE_SOURCE_DIR}/apps/view/EventPrinter.cpp ${CMAKE_SOURCE_DIR}/apps/view/SkinChoice.cpp

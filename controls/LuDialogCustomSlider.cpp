@@ -61,7 +61,7 @@ void LuDialogCustomSlider::drawRampBar() {
     const float step = width / (m_isShaded ? numColors - 1 : numColors);
     if (!m_isShaded) {
         // A band has the colour that its right end is given.
-        setRampColor(m_barColors[0]);
+        gl.color3fv(&m_barColors[0].x);
         drawPair(x);
         x += step;
     }

@@ -89,6 +89,9 @@ class LuDialogSlider : public LuLabelledControl {
     HWND getSliderWidget() const { return m_sliderWidget; }
     HWND getToggleWidget() const { return m_toggleWidget; }
     HWND getEditWidget() const { return m_editWidget; }
+
+    /// What is behind the slider's window; null while there is none.
+    LuDialogCustomSlider* getCustomSlider() const { return m_customSlider.get(); }
     void updateSliderWidget();
     void updateToggleWidget();
     void updateEditWidget();
@@ -145,7 +148,7 @@ protected:
     float m_normalizedValue = 0;
     int m_sliderWidth = 0;
     int m_editZoneWidth = 0;
-    std::unique_ptr<LuDialogCustomSlider> m_customSlider; ///< What is behind the slider's window.
+    std::unique_ptr<LuDialogCustomSlider> m_customSlider;
     LuText3* m_valueText3 = nullptr;
     int m_editing3D = 0;
 

@@ -120,7 +120,7 @@ LRESULT CALLBACK LuDialogSlider::editProcedure(HWND window, UINT message, WPARAM
             slider->setCurrentFocusedChild(window);
         else if (message == WM_CHAR || (message == WM_KEYDOWN && wParam == VK_DELETE))
             luFilterNumericEdit(s_nativeEditProcedure, window, message, wParam, lParam);
-        else
+        else if (message == WM_KEYDOWN)
             slider->handKeyToTopLevel(message, wParam, lParam);
         if (message == WM_CHAR || (message == WM_KEYDOWN && wParam == VK_DELETE))
             return 0;

@@ -2,6 +2,8 @@
 #include "apps/play/WindowPlayer.h"
 
 #include "apps/play/PlayKeys.h"
+#include "controls/LuDialogCustomSlider.h"
+#include "controls/LuDialogSlider.h"
 #include "layout/LuDialogComponent.h"
 #include "layout/LuTopLevelDialog.h"
 #include "platform/lumora/base/LuDebugError.h"
@@ -32,6 +34,38 @@ HWND getOperatedWindow(HWND carrier) {
     return carrier;
 }
 
+/// A part of a slider's own window, on the screen.
+RECT getScreenRect(HWND window, const LuWinSliderRectangle& place) {
+    POINT corners[] = {{place.x0, place.y0}, {place.x1, place.y1}};
+    MapWindowPoints(window, nullptr, corners, 2);
+    return {corners[0].x, corners[0].y, corners[1].x, corners[1].y};
+}
+
+/// The window to press for a part of a slider, and the place on the screen.
+HWND findSliderPart(const LuDialogSlider& slider, const std::string& part, RECT& rect) {
+    const LuDialogCustomSlider* const bar = slider.getCustomSlider();
+    if (!bar)
+        return nullptr;
+    if (part == "check" || part == "value") {
+        const HWND window = part == "check" ? slider.getToggleWidget() : slider.getEditWidget();
+        return GetWindowRect(window, &rect) ? window : nullptr;
+    }
+    const HWND window = bar->getNormalWindow();
+    rect = getScreenRect(window, part == "frame" ? bar->getBarRectangle() : bar->getThumbRectangle());
+    return window;
+}
+
+/// The window to press for a component, and the place on the screen; null where there is none.
+HWND findPressed(LuPanelix& component, const std::string& part, RECT& rect) {
+    if (component.isOfType(LuDialogSlider::getClassTypeId()))
+        return findSliderPart(static_cast<const LuDialogSlider&>(component), part, rect);
+    const HWND carrier = component.isOfType(LuDialogComponent::getClassTypeId())
+                             ? static_cast<LuDialogComponent&>(component).getWidget()
+                             : nullptr;
+    const HWND window = getOperatedWindow(carrier);
+    return GetWindowRect(window, &rect) ? window : nullptr;
+}
+
 /// A mouse message goes by a disabled window to the one below it.
 HWND getEnabledWindow(HWND window) {
     while (window && !IsWindowEnabled(window))
@@ -59,12 +93,9 @@ bool WindowPlayer::pressDialog(LuTopLevelDialog& dialog, const std::string& part
 bool WindowPlayer::press(LuPanelix& component, const std::string& part) {
     if (component.isOfType(LuTopLevelDialog::getClassTypeId()))
         return pressDialog(static_cast<LuTopLevelDialog&>(component), part);
-    const HWND carrier = component.isOfType(LuDialogComponent::getClassTypeId())
-                             ? static_cast<LuDialogComponent&>(component).getWidget()
-                             : nullptr;
-    const HWND window = getOperatedWindow(carrier);
-    RECT rect;
-    if (!IsWindow(window) || !GetWindowRect(window, &rect)) {
+    RECT rect{};
+    const HWND window = findPressed(component, part, rect);
+    if (!IsWindow(window)) {
         LuDebugError::post(WHERE, "\"%s\" has no window to press.",
                            component.auditorID.getValue().getString());
         return false;

@@ -38,6 +38,7 @@ ClassList& getClasses() {
         auto* list = new ClassList;
         addBuiltIn(*list, "Button", CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS | CS_PARENTDC, buttonProcedure, 0);
         addBuiltIn(*list, "Static", CS_DBLCLKS | CS_PARENTDC, staticProcedure, 0);
+        addBuiltIn(*list, "Edit", CS_DBLCLKS | CS_PARENTDC, editProcedure, sizeof(void*));
         return list;
     }();
     return classes;

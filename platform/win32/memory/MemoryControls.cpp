@@ -10,13 +10,6 @@ constexpr UINT checkMask = 3;
 
 DWORD getButtonType(const LuMemoryWindow& window) { return window.style & BS_TYPEMASK; }
 
-void notifyParent(LuMemoryWindow& window, int code) {
-    if (!isChildStyle(window.style))
-        return;
-    sendMessage(*window.parent, WM_COMMAND, MAKEWPARAM(static_cast<int>(window.id), code),
-                reinterpret_cast<LPARAM>(getHandle(&window)));
-}
-
 /// The other radio buttons of a group lose their check: the group goes from a WS_GROUP to the next.
 void uncheckGroup(LuMemoryWindow& window) {
     LuMemoryWindow* first = &window;
@@ -158,6 +151,13 @@ LRESULT handleButtonInput(LuMemoryWindow& window, UINT message, WPARAM wParam, L
 }
 
 } // namespace
+
+void notifyParent(LuMemoryWindow& window, int code) {
+    if (!isChildStyle(window.style))
+        return;
+    sendMessage(*window.parent, WM_COMMAND, MAKEWPARAM(static_cast<int>(window.id), code),
+                reinterpret_cast<LPARAM>(getHandle(&window)));
+}
 
 LRESULT buttonProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
     LuMemoryWindow* window = findMemoryWindow(handle);

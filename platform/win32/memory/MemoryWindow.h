@@ -29,6 +29,12 @@ struct LuMemoryScrollBar {
     bool isKnown = false; ///< Without a first SetScrollInfo there is nothing to get.
 };
 
+/// What an "EDIT" window has beside its text: places between two characters, and how many there may be.
+struct LuMemoryEdit {
+    int anchor = 0, caret = 0; ///< The selection lies between the two.
+    int limit = 30000;
+};
+
 /// A window. Its rectangles are relative to the client area of its parent, so that moving a parent touches no
 /// child.
 struct LuMemoryWindow {
@@ -54,6 +60,7 @@ struct LuMemoryWindow {
     bool needsSize = false;  ///< An overlapped window hears of its size when it is first shown.
     bool isDying = false;    ///< WM_DESTROY has been sent.
     HGDIOBJ image = nullptr; ///< For the built-in classes: STM_SETIMAGE.
+    LuMemoryEdit edit;
 };
 
 /// A private form of WM_SETTEXT, WM_GETTEXT and WM_GETTEXTLENGTH with wide text, for built-in procedures.
@@ -173,6 +180,9 @@ bool isTextMessage(UINT message);
 // Scrolling (MemoryScroll.cpp).
 void drawScrollBars(LuMemoryWindow& window, DWORD style);
 
-// Built-in classes (MemoryControls.cpp).
+// Built-in classes (MemoryControls.cpp, MemoryEdit.cpp).
+/// Sends the notification `code` of a control.
+void notifyParent(LuMemoryWindow& window, int code);
 LRESULT buttonProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT staticProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT editProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);

@@ -63,6 +63,11 @@ protected:
         return create(name, style, parent, 0, place, "BUTTON");
     }
 
+    HWND createEdit(const std::string& name, HWND parent, RECT place = {0, 0, 80, 20},
+                    DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL) {
+        return create(name, style, parent, WS_EX_CLIENTEDGE, place, "EDIT");
+    }
+
     /// Makes a window of a built-in class write its messages down too.
     void subclass(HWND window) {
         m_previous[window] = reinterpret_cast<WNDPROC>(
