@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "apps/view/EventPrinter.h"
 
+#include "controls/LuDialogIntegerSlider.h"
 #include "controls/LuDialogPushButton.h"
+#include "controls/LuDialogRealSlider.h"
 
 #include <cstdio>
 
@@ -18,4 +20,12 @@ void printEvent(const char* operation, const LuPanelix& component, const LvStrin
 
 void EventPrinter::dialogPushButton(LuDialogPushButton* button) {
     printEvent("dialogPushButton", *button, button->buttonLabel.getValue());
+}
+
+void EventPrinter::dialogIntegerSlider(LuDialogIntegerSlider* slider) {
+    printEvent("dialogIntegerSlider", *slider, slider->value.getText());
+}
+
+void EventPrinter::dialogRealSlider(LuDialogRealSlider* slider) {
+    printEvent("dialogRealSlider", *slider, slider->value.getText());
 }

@@ -7,4 +7,6 @@
 class EventPrinter : public LuDialogAuditor {
 public:
     void dialogPushButton(LuDialogPushButton* button) override;
+    void dialogIntegerSlider(LuDialogIntegerSlider* slider) override;
+    void dialogRealSlider(LuDialogRealSlider* slider) override;
 };
