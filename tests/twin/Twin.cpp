@@ -4,7 +4,9 @@
 #include "apps/play/ScenePlayer.h"
 #include "apps/play/WindowPlayer.h"
 #include "auditors/LuDialogAuditor.h"
+#include "controls/LuDialogIntegerSlider.h"
 #include "controls/LuDialogPushButton.h"
+#include "controls/LuDialogRealSlider.h"
 #include "layout/LuTopLevelDialog.h"
 #include "platform/lumora/io/LuDB.h"
 #include "platform/lumora/io/LuInput.h"
@@ -25,6 +27,12 @@ public:
     explicit Recorder(std::vector<std::string>& calls) : m_calls(calls) {}
     void dialogPushButton(LuDialogPushButton* button) override {
         record("dialogPushButton", *button, button->buttonLabel.getValue());
+    }
+    void dialogIntegerSlider(LuDialogIntegerSlider* slider) override {
+        record("dialogIntegerSlider", *slider, slider->value.getText());
+    }
+    void dialogRealSlider(LuDialogRealSlider* slider) override {
+        record("dialogRealSlider", *slider, slider->value.getText());
     }
 
 private:
