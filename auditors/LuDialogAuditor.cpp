@@ -2,7 +2,9 @@
 #include "auditors/LuDialogAuditor.h"
 
 #include "controls/LuDialogCheckBox.h"
+#include "controls/LuDialogIntegerSlider.h"
 #include "controls/LuDialogPushButton.h"
+#include "controls/LuDialogRealSlider.h"
 #include "platform/lumora/base/LuDebugError.h"
 #include "platform/lumora/base/LuPreferences.h"
 
@@ -41,9 +43,22 @@ void LuDialogAuditor::dialogCheckBox(LuDialogCheckBox* checkBox) {
 
 void LuDialogAuditor::dialogComboBox(LuDialogComboBox*) {}
 void LuDialogAuditor::dialogEditText(LuDialogEditText*) {}
-void LuDialogAuditor::dialogIntegerSlider(LuDialogIntegerSlider*) {}
+
+void LuDialogAuditor::dialogIntegerSlider(LuDialogIntegerSlider* slider) {
+    // On purpose the number follows the label's quote at once.
+    if (isDiagnosing())
+        postUndefined("dialogIntegerSlider", "LuDialogIntegerSlider",
+                      namedLine("label", slider->label.getValue()) + slider->value.getText());
+}
+
+void LuDialogAuditor::dialogRealSlider(LuDialogRealSlider* slider) {
+    if (isDiagnosing())
+        postUndefined("dialogRealSlider", "LuDialogRealSlider",
+                      namedLine("label", slider->label.getValue()) +
+                          namedLine("value", slider->getValueText()));
+}
+
 void LuDialogAuditor::dialogRadioButtons(LuDialogRadioButtons*) {}
-void LuDialogAuditor::dialogRealSlider(LuDialogRealSlider*) {}
 void LuDialogAuditor::tabDialog(LuTabDialog*) {}
 void LuDialogAuditor::menuPushButton(LuMenuPushButton*) {}
 void LuDialogAuditor::menuCheckBox(LuMenuCheckBox*) {}

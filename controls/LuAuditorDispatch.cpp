@@ -3,7 +3,9 @@
 
 #include "auditors/LuDialogAuditor.h"
 #include "controls/LuDialogCheckBox.h"
+#include "controls/LuDialogIntegerSlider.h"
 #include "controls/LuDialogPushButton.h"
+#include "controls/LuDialogRealSlider.h"
 
 namespace {
 
@@ -29,6 +31,8 @@ constexpr unsigned CONTROL =
 constexpr DispatchRow s_rows[] = {
     row<LuDialogPushButton, &LuDialogAuditor::dialogPushButton>(CONTROL),
     row<LuDialogCheckBox, &LuDialogAuditor::dialogCheckBox>(CONTROL),
+    row<LuDialogIntegerSlider, &LuDialogAuditor::dialogIntegerSlider>(CONTROL),
+    row<LuDialogRealSlider, &LuDialogAuditor::dialogRealSlider>(CONTROL),
 };
 
 } // namespace

@@ -70,7 +70,7 @@ class LuDialogSlider : public LuLabelledControl {
     /// Writes the number into the 3D text; here: the text has to be measured anew.
     virtual void change3DEditValue();
     /// A key while the number is edited in 3D; null where the event isn't known.
-    virtual void computeNewSliderEditValue(LuKeyboardEvent*) {}
+    virtual void computeNewSliderEditValue(const LuKeyboardEvent*) {}
     virtual void finish3DEditing() {}
 
     // Ways of a value
@@ -122,11 +122,17 @@ class LuDialogSlider : public LuLabelledControl {
 protected:
     ~LuDialogSlider() override;
 
+    /// Whether the 3D rendition is there, and is the parent's to place.
+    bool isShown3D() const { return isBuilt3D() && canBeTraversed(); }
+
     LvString getValueFromEdit() const;
     LvString get3DValueFromEdit() const;
 
     /// Takes account of a new width of the number's room.
     void updateWidget();
+
+    /// Keys go to the number in 3D no more.
+    void stopEditing3D();
 
     LuSFNode checkSep;
     LuSFNode checkSwtch;
@@ -177,10 +183,25 @@ private:
     int getToggleRoom() const;
 
     // 3D
+    /// Width and height of the cursor in scene units; a press brings its middle under the pointer.
+    static constexpr float CURSOR_SIZE_3D = 10;
+
+    void loadSkins3D();
     void create3DDialogSlider();
+    void createCheck3D();
+    void createFrame3D();
+    void createValueBox3D();
     void update3DSlider();
+    void updateValueBox3D();
     void update3DLabel() { placeLabel3D(); }
+    void showCheck3D();
     void change3DCursor();
+    /// The way of the cursor from position 0 to position 1 in scene units.
+    float getTravel3D() const;
+    void startDrag3D();
+    void jumpToClick3D();
+    void showNewValue3D();
+    void toggleCheck3D();
     static void startCB3D(void* data, LuDragger* dragger);
     static void motionCB3D(void* data, LuDragger* dragger);
     static void finishCB3D(void* data, LuDragger* dragger);

@@ -3,9 +3,12 @@
 
 #include "auditors/LuAuditor.h"
 #include "controls/LuDialogCheckBox.h"
+#include "controls/LuDialogIntegerSlider.h"
 #include "controls/LuDialogLabel.h"
 #include "controls/LuDialogPushButton.h"
+#include "controls/LuDialogRealSlider.h"
 #include "controls/LuDialogSeparator.h"
+#include "controls/LuEditTextSkin.h"
 #include "core/LuPanelix.h"
 #include "layout/LuColumnDialog.h"
 #include "layout/LuRowDialog.h"
@@ -27,9 +30,11 @@ constexpr ComponentClass row() {
 }
 
 constexpr ComponentClass CLASSES[] = {
-    row<LuPanelix>(),          row<LuTopComponent>(),    row<LuDialogComponent>(), row<LuDialogCheckBox>(),
-    row<LuDialogGroup>(),      row<LuColumnDialog>(),    row<LuRowDialog>(),       row<LuDialogLabel>(),
-    row<LuDialogPushButton>(), row<LuDialogSeparator>(), row<LuTopLevelDialog>(),
+    row<LuPanelix>(),          row<LuTopComponent>(),   row<LuDialogComponent>(),
+    row<LuDialogCheckBox>(),   row<LuDialogGroup>(),    row<LuColumnDialog>(),
+    row<LuRowDialog>(),        row<LuDialogLabel>(),    row<LuDialogPushButton>(),
+    row<LuDialogSeparator>(),  row<LuDialogSlider>(),   row<LuDialogIntegerSlider>(),
+    row<LuDialogRealSlider>(), row<LuTopLevelDialog>(),
 };
 
 } // namespace
@@ -48,7 +53,9 @@ void luExitComponentClasses() {
 void luChangeSkinOfComponentClasses() {
     LuDialogComponent::change3DSkin();
     LuDialogCheckBox::change3DSkin();
+    LuEditTextSkin::change3DSkin();
     LuDialogPushButton::change3DSkin();
     LuDialogSeparator::change3DSkin();
+    LuDialogSlider::change3DSkin();
     LuTopLevelDialog::change3DSkin();
 }

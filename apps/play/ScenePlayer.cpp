@@ -19,13 +19,26 @@ constexpr const char* WHERE = "ScenePlayer";
 /// From the top of a panel to the middle of its title, in scene units.
 constexpr float TITLE_MIDDLE = 12;
 
+/// What a user calls a part, and its name in the geometry.
+struct PartName {
+    std::string_view user;
+    const char* part;
+};
+constexpr PartName PART_NAMES[] = {
+    {"minimise", "minSep"}, {"cursor", "cursorSep"}, {"check", "checkSep"}, {"value", "edtFrmSep"}};
+
 /// The name of the part of the geometry that a user means.
 const char* getPartName(const LuBaseKit& kit, const std::string& part) {
-    if (part == "minimise")
-        return "minSep";
+    const auto hasPart = [&](const char* name) { return kit.getNodekitCatalog()->getPartNumber(name) >= 0; };
+    for (const PartName& name : PART_NAMES) {
+        if (name.user == part)
+            return name.part;
+    }
+    if (part.empty() && hasPart("cursorSep"))
+        return "cursorSep";
     if (!part.empty() && part != "frame")
         return part.c_str();
-    return kit.getNodekitCatalog()->getPartNumber("frameSep") >= 0 ? "frameSep" : "geomSeparator";
+    return hasPart("frameSep") ? "frameSep" : "geomSeparator";
 }
 
 } // namespace

@@ -102,6 +102,10 @@ bool WindowPlayer::press(LuPanelix& component, const std::string& part) {
     }
     m_place.setValue((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
     m_pressed = IsWindowVisible(window) ? getEnabledWindow(window) : nullptr;
+    // The window hears first that it is going to be pressed.
+    if (m_pressed)
+        SendMessageA(m_pressed, WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(GetAncestor(m_pressed, GA_ROOT)),
+                     MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN));
     sendMouse(WM_LBUTTONDOWN, MK_LBUTTON);
     return true;
 }

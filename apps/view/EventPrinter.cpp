@@ -2,7 +2,9 @@
 #include "apps/view/EventPrinter.h"
 
 #include "controls/LuDialogCheckBox.h"
+#include "controls/LuDialogIntegerSlider.h"
 #include "controls/LuDialogPushButton.h"
+#include "controls/LuDialogRealSlider.h"
 
 #include <cstdio>
 
@@ -23,4 +25,12 @@ void EventPrinter::dialogPushButton(LuDialogPushButton* button) {
 
 void EventPrinter::dialogCheckBox(LuDialogCheckBox* checkBox) {
     printEvent("dialogCheckBox", *checkBox, checkBox->state.getText());
+}
+
+void EventPrinter::dialogIntegerSlider(LuDialogIntegerSlider* slider) {
+    printEvent("dialogIntegerSlider", *slider, slider->value.getText());
+}
+
+void EventPrinter::dialogRealSlider(LuDialogRealSlider* slider) {
+    printEvent("dialogRealSlider", *slider, slider->value.getText());
 }

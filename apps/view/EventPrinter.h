@@ -9,4 +9,6 @@ class EventPrinter : public LuDialogAuditor {
 public:
     void dialogPushButton(LuDialogPushButton* button) override;
     void dialogCheckBox(LuDialogCheckBox* checkBox) override;
+    void dialogIntegerSlider(LuDialogIntegerSlider* slider) override;
+    void dialogRealSlider(LuDialogRealSlider* slider) override;
 };

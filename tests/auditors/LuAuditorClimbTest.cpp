@@ -2,8 +2,10 @@
 #include "auditors/LuDialogAuditor.h"
 #include "auditors/LuDialogPushButtonAuditor.h"
 #include "controls/LuDialogCheckBox.h"
+#include "controls/LuDialogIntegerSlider.h"
 #include "controls/LuDialogLabel.h"
 #include "controls/LuDialogPushButton.h"
+#include "controls/LuDialogRealSlider.h"
 #include "layout/LuRowDialog.h"
 #include "layout/LuTopLevelDialog.h"
 #include "platform/lumora/base/LuPreferences.h"
@@ -265,6 +267,30 @@ TEST_F(LuAuditorClimbTest, nobodyListensToACheckBox_theMessageSaysItsTexts) {
     EXPECT_EQ(getPostedInfos()[0].text,
               "WARNING ! The DialogAuditor does not define the LuDialogCheckBox component :"
               "\n\t\t -> label \"Here:\"\n\t\t -> onString \"yes\"\n\t\t -> offString \"no\"");
+}
+
+TEST_F(LuAuditorClimbTest, nobodyListensToASlider_theMessageSaysItsValue) {
+    LuPreferences::setString("DEBUG_PANELIX_AUDITORS", "1");
+    auto* const whole = new LuDialogIntegerSlider;
+    whole->label = "Size";
+    whole->value = 12;
+    m_group->addChild(whole);
+    whole->applyDlgCptAuditor();
+    auto* const real = new LuDialogRealSlider;
+    real->label = "Share";
+    real->value = 0.5F;
+    real->format = "%.1f";
+    m_group->addChild(real);
+    real->applyDlgCptAuditor();
+    ASSERT_EQ(getPostedInfos().size(), 2u);
+    EXPECT_EQ(getPostedInfos()[0].where, "LuDialogAuditor::dialogIntegerSlider");
+    EXPECT_EQ(getPostedInfos()[0].text,
+              "WARNING ! The DialogAuditor does not define the LuDialogIntegerSlider component :"
+              "\n\t\t -> label \"Size\"12");
+    EXPECT_EQ(getPostedInfos()[1].where, "LuDialogAuditor::dialogRealSlider");
+    EXPECT_EQ(getPostedInfos()[1].text,
+              "WARNING ! The DialogAuditor does not define the LuDialogRealSlider component :"
+              "\n\t\t -> label \"Share\"\n\t\t -> value \"0.5\"");
 }
 
 TEST_F(LuAuditorClimbTest, auditorThatOverridesNothing_takesTheEventAndSaysSo) {

@@ -25,29 +25,29 @@ public:
     static int getHundredths(float position) { return static_cast<int>(std::lround(position * 100)); }
 
     void setValueFromEdit(int is2D) override {
-        write("fromEdit " + std::to_string(is2D));
+        note("fromEdit " + std::to_string(is2D));
         m_normalizedValue = static_cast<float>(std::atoi(getValueFromEdit().getString())) / 100;
     }
     void setValueFromSlider(float position) override {
-        write("fromSlider " + std::to_string(getHundredths(position)));
+        note("fromSlider " + std::to_string(getHundredths(position)));
         m_normalizedValue = position;
     }
     void changeSliderValue() override {
-        write("slider");
+        note("slider");
         if (m_customSlider)
             m_customSlider->setValue(m_normalizedValue, 1);
     }
     void setValue() override {
-        write("value " + std::to_string(getHundredths(m_normalizedValue)));
+        note("value " + std::to_string(getHundredths(m_normalizedValue)));
         if (m_atValue)
             m_atValue();
     }
     void changeEditValue() override {
-        write("edit");
+        note("edit");
         if (existWidget(getEditWidget()))
             SetWindowTextA(getEditWidget(), std::to_string(getHundredths(m_normalizedValue)).c_str());
     }
-    void changeFormat() override { write("format"); }
+    void changeFormat() override { note("format"); }
     int computeEditZoneWidth() override { return m_editRoom; }
     using LuDialogSlider::updateWidget;
 
@@ -58,7 +58,7 @@ public:
     int m_editRoom = EDIT_ROOM;
 
 private:
-    void write(const std::string& text) { m_log.push_back(text); }
+    void note(const std::string& text) { m_log.push_back(text); }
     Log m_log;
 };
 

@@ -5,7 +5,9 @@
 #include "apps/play/WindowPlayer.h"
 #include "auditors/LuDialogAuditor.h"
 #include "controls/LuDialogCheckBox.h"
+#include "controls/LuDialogIntegerSlider.h"
 #include "controls/LuDialogPushButton.h"
+#include "controls/LuDialogRealSlider.h"
 #include "layout/LuTopLevelDialog.h"
 #include "platform/lumora/io/LuDB.h"
 #include "platform/lumora/io/LuInput.h"
@@ -29,6 +31,12 @@ public:
     }
     void dialogCheckBox(LuDialogCheckBox* checkBox) override {
         record("dialogCheckBox", *checkBox, checkBox->state.getText());
+    }
+    void dialogIntegerSlider(LuDialogIntegerSlider* slider) override {
+        record("dialogIntegerSlider", *slider, slider->value.getText());
+    }
+    void dialogRealSlider(LuDialogRealSlider* slider) override {
+        record("dialogRealSlider", *slider, slider->value.getText());
     }
 
 private:

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/twin/Twin.h"
-#include "tests/host/ComponentTest.h"
+
+#include "controls/LuDialogIntegerSlider.h"
+#include "controls/LuDialogRealSlider.h" #include "tests/host/ComponentTest.h"
 
 #include <cstdio>
 
@@ -149,6 +151,103 @@ TEST_F(TwinTest, dialogMinimisedAndRestored_isAsBeforeAndItsButtonsAreHeard) {
                           "press first\nrelease\n",
                           FRAMES),
               Calls{"dialogPushButton first First"});
+}
+
+// Sliders
+
+constexpr const char* SLIDERS = R"(
+TopLevelDialog {
+    auditorID "dialog"
+    label "Twin"
+    width 400
+    height 300
+    DialogIntegerSlider { auditorID "steps" label "Steps" min 0 max 4 value 2 }
+    DialogRealSlider { auditorID "share" label "Share" min 0 max 1 value 0.5 fixedLimits TRUE }
+    DialogIntegerSlider { auditorID "live" label "Live" max 1 continuousTrigger TRUE }
+}
+)";
+
+/// Neither rendition has the first slider of its class: that treats its limits in another way.
+class SliderTwinTest : public TwinTest {
+protected:
+    SliderTwinTest() {
+        const Held<LuDialogIntegerSlider> integer;
+        const Held<LuDialogRealSlider> real;
+        traverse(integer.get());
+        traverse(real.get());
+    }
+};
+
+TEST_F(SliderTwinTest, drag_isHeardOnceAtItsEnd) {
+    EXPECT_EQ(expectTwins(SLIDERS, "drag steps.cursor 300 0\ndrag steps -300 0\n", FRAMES),
+              (Calls{"dialogIntegerSlider steps 4", "dialogIntegerSlider steps 0"}));
+}
+
+TEST_F(SliderTwinTest, dragOfAReal_endsAtItsLimits) {
+    EXPECT_EQ(expectTwins(SLIDERS, "drag share.cursor 300 10\ndrag share.cursor -300 0\n", FRAMES),
+              (Calls{"dialogRealSlider share 1", "dialogRealSlider share 0"}));
+}
+
+TEST_F(SliderTwinTest, dragWithContinuousTrigger_isHeardAtEachNewValue) {
+    EXPECT_EQ(expectTwins(SLIDERS, "drag live 300 0\ndrag live -300 0\n", FRAMES),
+              (Calls{"dialogIntegerSlider live 1", "dialogIntegerSlider live 0"}));
+}
+
+TEST_F(SliderTwinTest, pressOnTheBar_bringsThePositionThere) {
+    EXPECT_EQ(expectTwins(SLIDERS, "drag steps 300 0\npress steps.frame\nrelease\n", FRAMES),
+              (Calls{"dialogIntegerSlider steps 4", "dialogIntegerSlider steps 2"}));
+}
+
+TEST_F(SliderTwinTest, clickOnTheCheck_turnsTheTriggerOverWithoutAWord) {
+    EXPECT_EQ(expectTwins(SLIDERS, "press steps.check\nrelease\n", FRAMES), Calls());
+}
+
+TEST_F(SliderTwinTest, clickOnTheCheck_decidesWhenADragIsHeard) {
+    const Calls calls = expectTwins(
+        SLIDERS, "press steps.check\nrelease\ndrag steps 300 0\npress live.check\nrelease\ndrag live 300 0\n",
+        FRAMES);
+    EXPECT_EQ(calls.back(), "dialogIntegerSlider live 1");
+    EXPECT_EQ(calls[calls.size() - 2], "dialogIntegerSlider steps 4");
+}
+
+TEST_F(SliderTwinTest, typedInteger_isHeardAtReturn) {
+    EXPECT_EQ(expectTwins(SLIDERS,
+                          "press steps.value\nrelease\nkey End\nkey Backspace\ntype \"3\"\nkey Return\n",
+                          FRAMES),
+              Calls{"dialogIntegerSlider steps 3"});
+}
+
+TEST_F(SliderTwinTest, typedIntegerBeyondTheLimit_movesIt) {
+    EXPECT_EQ(expectTwins(SLIDERS, "press steps.value\nrelease\nkey End\ntype \"5\"\nkey Return\n", FRAMES),
+              Calls{"dialogIntegerSlider steps 25"});
+}
+
+TEST_F(SliderTwinTest, typedReal_isHeardAtReturn) {
+    EXPECT_EQ(expectTwins(SLIDERS,
+                          "press share.value\nrelease\nkey End\nkey Backspace\nkey Backspace\nkey Backspace\n"
+                          "type \"25\"\nkey Return\n",
+                          FRAMES),
+              Calls{"dialogRealSlider share 0.25"});
+}
+
+TEST_F(SliderTwinTest, lettersAndSigns_stayOutOfTheNumber) {
+    EXPECT_EQ(
+        expectTwins(SLIDERS, "press share.value\nrelease\nkey End\ntype \"x-,1\"\nkey Return\n", FRAMES),
+        Calls{"dialogRealSlider share 0.5001"});
+}
+
+TEST_F(SliderTwinTest, typedNumberBeyondAFixedLimit_isTakenInTheSceneOnly) {
+    constexpr const char* TYPED =
+        "press share.value\nrelease\nkey End\nkey Backspace\nkey Backspace\nkey Backspace\n"
+        "key Backspace\nkey Backspace\ntype \"7\"\nkey Return\n";
+    EXPECT_EQ(playTwin(Rendition::WINDOWS, SLIDERS, TYPED).calls, Calls{"dialogRealSlider share 1"});
+    EXPECT_EQ(playTwin(Rendition::SCENE, SLIDERS, TYPED).calls, Calls{"dialogRealSlider share 7"});
+}
+
+TEST_F(SliderTwinTest, returnOnTheSameNumber_isHeardInTheSceneOnly) {
+    constexpr const char* SAME = "press steps.value\nrelease\nkey Return\n";
+    EXPECT_EQ(playTwin(Rendition::WINDOWS, SLIDERS, SAME).calls, Calls());
+    EXPECT_EQ(playTwin(Rendition::SCENE, SLIDERS, SAME).calls, Calls{"dialogIntegerSlider steps 2"});
 }
 
 } // namespace

@@ -2,6 +2,9 @@
 #include "platform/lumora/base/LvString.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
 
 namespace {
 
@@ -36,6 +39,32 @@ bool decode(std::string_view text, std::size_t position, char32_t& character, in
     static constexpr char32_t SMALLEST[] = {0, 0, 0x80, 0x800, 0x10000};
     return character >= SMALLEST[length] && character <= 0x10FFFF &&
            (character < 0xD800 || character > 0xDFFF);
+}
+
+constexpr std::string_view SPACES = " \t\n\v\f\r";
+
+/// The text from where a number may begin: behind white space and a plus sign.
+std::string_view skipToNumber(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(SPACES), text.size()));
+    const bool hasPlus = text.size() > 1 && text[0] == '+' && text[1] != '-';
+    return hasPlus ? text.substr(1) : text;
+}
+
+/// What stands for a number that no float can hold.
+float getExtreme(std::string_view word) {
+    const bool isNegative = word.starts_with('-');
+    double exact = 0;
+    bool isSmall = false;
+    if (std::from_chars(word.data(), word.data() + word.size(), exact).ec == std::errc()) {
+        isSmall = std::abs(exact) < 1;
+    } else {
+        // No double can hold it either: then its look has to do.
+        const std::size_t exponent = word.find_first_of("eE");
+        const char first = word[isNegative ? 1 : 0];
+        isSmall = exponent == word.npos ? first == '0' || first == '.' : word[exponent + 1] == '-';
+    }
+    const float extreme = isSmall ? 0 : std::numeric_limits<float>::infinity();
+    return isNegative ? -extreme : extreme;
 }
 
 } // namespace
@@ -146,4 +175,23 @@ LvString LvString::getSubString(int start, int end) const {
     const int first = std::clamp(start, 0, length);
     const int last = end < 0 ? length : std::clamp(end, first, length);
     return m_text.substr(static_cast<std::size_t>(first), static_cast<std::size_t>(last - first));
+}
+
+int LvString::toInt() const {
+    const std::string_view word = skipToNumber(m_text);
+    int number = 0;
+    const std::errc error = std::from_chars(word.data(), word.data() + word.size(), number).ec;
+    if (error != std::errc::result_out_of_range)
+        return number;
+    return word.starts_with('-') ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+}
+
+float LvString::toFloat() const {
+    const std::string_view word = skipToNumber(m_text);
+    const char* const end = word.data() + word.size();
+    float number = 0;
+    const auto [rest, error] = std::from_chars(word.data(), end, number);
+    if (error != std::errc::result_out_of_range)
+        return number;
+    return getExtreme(word.substr(0, static_cast<std::size_t>(rest - word.data())));
 }

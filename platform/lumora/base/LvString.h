@@ -39,6 +39,14 @@ public:
     /// outside the text are moved to its ends.
     LvString getSubString(int start, int end = -1) const;
 
+    /// The number that the text begins with, behind white space; 0 where it begins with none. What no int can
+    /// hold becomes the nearest that one can.
+    int toInt() const;
+
+    /// The same with fraction and exponent; the point is a "." in every locale. What is too great becomes
+    /// infinite.
+    float toFloat() const;
+
     char operator[](int index) const { return m_text[static_cast<std::size_t>(index)]; }
 
     LvString& operator+=(const LvString& other) {

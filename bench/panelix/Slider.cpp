@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+// What an integer slider costs in a dialog of many controls: a new value set by the program, and one motion
+// of a drag while both renditions are there and every motion is heard.
+#include "auditors/LuDialogIntegerSliderAuditor.h"
+#include "bench/DialogText.h"
+#include "bench/Measure.h"
+#include "bench/panelix/ReadDialog.h"
+#include "controls/LuDialogIntegerSlider.h"
+#include "core/LuNumberFormat.h"
+#include "core/LuPanelix.h"
+#include "platform/lumora/actions/LuGetBoundingBoxAction.h"
+#include "platform/lumora/actions/LuHandleEventAction.h"
+#include "platform/lumora/actions/LuPath.h"
+#include "platform/lumora/events/LuEvent.h"
+#include "platform/lumora/io/LuDB.h"
+#include "platform/lumora/nodes/LuCamera.h"
+#include "platform/lumora/nodes/LuText3.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr int REPEATS = 301;
+constexpr int CALLS = 100; ///< In each repeat.
+constexpr int VIEWPORT = 10000;
+
+class Counter : public LuDialogIntegerSliderAuditor {
+public:
+    ~Counter() override = default;
+    void dialogIntegerSlider(LuDialogIntegerSlider*) override { ++m_count; }
+    int m_count = 0;
+};
+
+/// A dialog of buttons with a slider on top, in a scene that shows all of it.
+class SliderScene {
+public:
+    explicit SliderScene(int count)
+        : m_dialog(bench::readDialog(bench::panelixText(bench::buttonDialog(count)))),
+          m_action(LvViewportRegion(VIEWPORT, VIEWPORT)) {
+        m_slider->max = 1000;
+        m_slider->width = 600;
+        m_slider->fixedWidth = true;
+        m_slider->continuousTrigger = true;
+        m_slider->addAuditor(&m_events);
+        m_dialog->insertChild(m_slider, 0);
+        m_camera->height = VIEWPORT;
+        m_camera->position = LvVec3f(VIEWPORT / 2, -VIEWPORT / 2, 500);
+        m_camera->nearDistance = 1;
+        m_camera->farDistance = 1000;
+        m_root->ref();
+        m_root->addChild(m_camera);
+        m_root->addChild(m_dialog);
+        m_dialog->unref();
+        m_box.apply(m_root);
+    }
+    ~SliderScene() {
+        m_slider->removeAuditor(&m_events);
+        m_root->unref();
+    }
+    SliderScene(const SliderScene&) = delete;
+    SliderScene& operator=(const SliderScene&) = delete;
+
+    void buildWindows() {
+        LuDBImpl::m_isHeadless = false;
+        m_dialog->buildDialog(nullptr, 0);
+        LuDBImpl::m_isHeadless = true;
+        bench::require(m_slider->getSliderWidget() != nullptr, "the slider has its windows");
+    }
+
+    /// Presses the mouse in the middle of the cursor.
+    void press() {
+        const LuPath path = LuPath::find(m_root, m_slider->getPart("cursorSep", false));
+        LuGetBoundingBoxAction action;
+        action.apply(path);
+        const LvVec3f middle = (action.getBoundingBox().min + action.getBoundingBox().max) * 0.5F;
+        m_x = static_cast<int>(std::lround(middle.x));
+        m_y = VIEWPORT + static_cast<int>(std::lround(middle.y));
+        send(LuMouseButtonEvent(LuMouseButtonEvent::BUTTON1, LuButtonEvent::DOWN, {m_x, m_y}));
+        bench::require(m_slider->isActive(), "the cursor is held");
+    }
+
+    void drag(int x) { send(LuLocation2Event({m_x + x, m_y})); }
+
+    void settle() { m_box.apply(m_root); }
+
+    LuDialogIntegerSlider* m_slider = new LuDialogIntegerSlider;
+    Counter m_events;
+
+private:
+    void send(const LuEvent& event) {
+        m_action.setEvent(&event);
+        m_action.apply(m_root);
+        m_action.setEvent(nullptr);
+    }
+
+    LuTopLevelDialog* m_dialog;
+    LuSeparator* m_root = new LuSeparator;
+    LuOrthographicCamera* m_camera = new LuOrthographicCamera;
+    LuHandleEventAction m_action;
+    LuGetBoundingBoxAction m_box;
+    int m_x = 0;
+    int m_y = 0;
+};
+
+void measureValue(int count) {
+    SliderScene scene(count);
+    bench::measure("panelix-slider-value", count, REPEATS, CALLS,
+                   {.prepare = [&] { scene.settle(); },
+                    .body =
+                        [&] {
+                            for (int i = 1; i <= CALLS; ++i)
+                                scene.m_slider->value = i;
+                        },
+                    .clear = {}});
+    bench::require(scene.m_slider->value.getValue() == CALLS, "the values were set");
+}
+
+/// The share of the number's text in that: printing it, and setting it.
+void measureText() {
+    LuNumberFormat format(LuNumberFormat::WHOLE, "%d");
+    auto* text = new LuText3;
+    text->ref();
+    bench::measure("panelix-slider-text", 1, REPEATS, CALLS,
+                   {.prepare = {},
+                    .body =
+                        [&] {
+                            for (int i = 1; i <= CALLS; ++i)
+                                text->string.set1Value(0, format.print(i));
+                        },
+                    .clear = {}});
+    bench::require(text->string[0] == "100", "the texts were set");
+    text->unref();
+}
+
+void measureDrag(int count) {
+    SliderScene scene(count);
+    scene.buildWindows();
+    scene.press();
+    bench::measure("panelix-slider-drag", count, REPEATS, CALLS,
+                   {.prepare =
+                        [&] {
+                            scene.drag(0);
+                            scene.settle();
+                        },
+                    .body =
+                        [&] {
+                            for (int i = 1; i <= CALLS; ++i)
+                                scene.drag(i * 2);
+                        },
+                    .clear = {}});
+    bench::require(scene.m_events.m_count > REPEATS * CALLS, "every motion was heard");
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    LuPanelix::init();
+    measureText();
+    for (const int count : bench::counts(argc, argv, {100, 1000})) {
+        measureValue(count);
+        measureDrag(count);
+    }
+    LuPanelix::finish();
+}
