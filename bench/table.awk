@@ -84,6 +84,9 @@ END {
         bound("draw calls of a panel", "panelix-draw-calls", counts[i], 16)
     for (i = 1; i <= 3; i++)
         bound("refresh, unchanged, ns", "panelix-refresh-unchanged", counts[i], 1000)
+    compare("refresh, unchanged, ns", "panelix-refresh-unchanged", 1000, "imgui-frame", 1000, 0.05)
+    compare("refresh, unchanged, growth", "panelix-refresh-unchanged", 10000, "panelix-refresh-unchanged", 1000,
+        1.5)
     for (i = 1; i <= 3; i++)
         bound("refresh, one new label, ns", "panelix-refresh-changed", counts[i], 50000)
     bound("push button before build, bytes", "panelix-heap", 10000, 2048)

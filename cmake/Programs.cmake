@@ -7,11 +7,6 @@ else()
     set(otherFolder "/windows/")
 endif()
 
-# What plays to dialogs as a user would; for programs and tests.
-file(GLOB play CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/apps/play/*.cpp)
-add_library(panelix-play STATIC ${play})
-target_link_libraries(panelix-play PUBLIC panelix PRIVATE panelix-options)
-
 # What examples with a panel in a scene share.
 file(GLOB stage CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/examples/stage/*.cpp)
 add_library(panelix-stage STATIC ${stage})

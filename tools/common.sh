@@ -18,7 +18,7 @@ PACKAGES_NATIVE="cmake ninja-build ccache g++ googletest libglm-dev libfreetype-
 PACKAGES_WINDOWS="cmake ninja-build ccache g++-mingw-w64-x86-64-posix googletest libglm-dev libstb-dev libcli11-dev
     wine wine64 fonts-wine xvfb xdotool x11-apps netpbm libgl1-mesa-dri libxcomposite1"
 PACKAGES_FUZZ="clang llvm libclang-rt-dev"
-PACKAGES_BENCH="qt6-base-dev qt6-tools-dev libqt6opengl6-dev"
+PACKAGES_BENCH="libimgui-dev qt6-base-dev qt6-tools-dev libqt6opengl6-dev"
 }
 
 say() { printf '== %s\n' "$*"; }

@@ -94,6 +94,8 @@ bool RandomPanel::run(int count) {
         m_lastActions.push_back(action.name);
         if (m_lastActions.size() > SHOWN_ACTIONS)
             m_lastActions.pop_front();
+        // What the desktop has done meanwhile.
+        LuWin::processMessages();
         action.run();
         check();
         if (testing::Test::HasFailure())

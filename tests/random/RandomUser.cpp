@@ -154,8 +154,8 @@ void RandomPanel::sendToWindow(HWND window, UINT message, WPARAM wParam, LPARAM 
         if (component->getOperatedWindow() == window)
             component->windowMessage(message, wParam, isInside);
     }
-    PostMessageA(window, message, wParam, lParam);
-    LuWin::processMessages();
+    // Sent and not posted, so that nothing of the desktop's own comes between the expectation and the message.
+    SendMessageA(window, message, wParam, lParam);
 }
 
 void RandomPanel::sendMouse(HWND window, UINT message, WPARAM buttons, bool isInside) {
