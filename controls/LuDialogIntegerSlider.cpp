@@ -59,10 +59,10 @@ std::int32_t LuDialogIntegerSlider::getNumberInEdit() const {
 /// Truncates `steps` and adds `min`. No number at all counts as the lowest, to which `min` is added as
 /// processors add; any other sum ends at the ends of the type.
 std::int32_t LuDialogIntegerSlider::getNumberAfter(float steps) const {
-    constexpr float FAR = 8e9F;
+    constexpr float MOST_STEPS = 8e9F;
     if (std::isnan(steps))
         return static_cast<std::int32_t>(0x80000000U + static_cast<std::uint32_t>(min.getValue()));
-    return luAddSize(min.getValue(), static_cast<std::int64_t>(std::clamp(steps, -FAR, FAR)));
+    return luAddSize(min.getValue(), static_cast<std::int64_t>(std::clamp(steps, -MOST_STEPS, MOST_STEPS)));
 }
 
 std::int32_t LuDialogIntegerSlider::getWidestNumber() const {

@@ -47,23 +47,22 @@ LuDialogSlider::~LuDialogSlider() {
 float LuDialogSlider::getValue() const { return m_customSlider ? m_customSlider->getValue() : 0; }
 
 void LuDialogSlider::updateFromSensor(LuSensor* sensor) {
-    const bool isShown3D = isBuilt3D() && canBeTraversed();
     if (sensor == m_valueVisibleSensor) {
         if (m_built2D)
             changeValueVisible();
-        if (isShown3D)
+        if (isShown3D())
             change3DValueVisible();
     } else if (sensor == m_toggleVisibleSensor) {
         if (m_built2D)
             changeToggleVisible();
-        if (isShown3D)
+        if (isShown3D())
             change3DToggleVisible();
     } else if (sensor == m_colorsSensor || sensor == m_shadedColorsSensor) {
         changeBarColors();
     } else if (sensor == m_continuousTriggerSensor) {
         if (m_built2D)
             changeContinuousTrigger();
-        if (isShown3D)
+        if (isShown3D())
             change3DContinuousTrigger();
     } else if (sensor == m_formatSensor) {
         changeFormat();
@@ -137,7 +136,7 @@ void LuDialogSlider::changeSliderFromEdit() {
 void LuDialogSlider::showText() {
     if (m_built2D)
         changeEditValue();
-    if (isBuilt3D() && canBeTraversed())
+    if (isShown3D())
         change3DEditValue();
 }
 
@@ -145,7 +144,7 @@ void LuDialogSlider::showText() {
 void LuDialogSlider::showPosition() {
     if (m_built2D)
         changeSliderValue();
-    if (isBuilt3D() && canBeTraversed())
+    if (isShown3D())
         change3DCursor();
 }
 

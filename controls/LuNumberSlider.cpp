@@ -6,7 +6,7 @@
 #include "platform/lumora/nodes/LuText3.h"
 #include "platform/lumora/win/LuWin.h"
 
-#include <limits>
+#include <algorithm>
 #include <type_traits>
 
 namespace {

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr float INFINITE = std::numeric_limits<float>::infinity();
+constexpr float ENDLESS = std::numeric_limits<float>::infinity();
 constexpr float HIGHEST = std::numeric_limits<float>::max();
 
 class RealAuditor : public SliderAuditor<LuDialogRealSliderAuditor, LuDialogRealSlider> {
@@ -81,7 +81,7 @@ TEST_F(LuDialogRealSliderTest, valueThatIsNoNumber_leavesTheSceneWhole) {
 }
 
 TEST_F(LuDialogRealSliderTest, numbersWithoutEnd_areSafe) {
-    for (const float limit : {INFINITE, -INFINITE, HIGHEST, -HIGHEST, std::nanf("")}) {
+    for (const float limit : {ENDLESS, -ENDLESS, HIGHEST, -HIGHEST, std::nanf("")}) {
         const Held<OpenSlider<LuDialogRealSlider>> slider;
         slider->width = 300;
         slider->height = 30;

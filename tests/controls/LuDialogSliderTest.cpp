@@ -258,6 +258,26 @@ TEST_F(LuDialogSliderLayoutTest, partsChangedLater_haveTheirPlaces) {
     }
 }
 
+TEST_F(LuDialogSliderTest, invisibleValue_leavesItsPlaceToTheSlider) {
+    build();
+    const auto [x, y, width, height] = getPlace(getThumbWindow());
+    m_slider->valueVisible = false;
+    EXPECT_FALSE(IsWindowVisible(getEdit()));
+    EXPECT_EQ(getPlace(getThumbWindow()), Place(x, y, width + EDIT_ROOM + 2, height));
+}
+
+TEST_F(LuDialogSliderTest, invisibleToggle_letsTheSliderStartAtTheInsetAndKeepsTheTrigger) {
+    m_slider->labelVisibility = false;
+    m_slider->continuousTrigger = true;
+    build();
+    m_slider->toggleVisible = false;
+    EXPECT_FALSE(IsWindowVisible(getToggle()));
+    EXPECT_EQ(std::get<0>(getPlace(getThumbWindow())), 3);
+    EXPECT_TRUE(m_slider->continuousTrigger.getValue());
+    drag({getTravel()});
+    EXPECT_THAT(m_slider->takeLog(), ElementsAre("fromSlider 100", "value 100", "edit"));
+}
+
 TEST_F(LuDialogSliderTest, toggleInvisibleFromTheStart_hasNoHeight) {
     m_slider->toggleVisible = false;
     m_slider->continuousTrigger = true;
@@ -368,6 +388,15 @@ TEST_F(LuDialogSliderBarTest, disabledRamp_isHalfAsBright) {
     EXPECT_EQ(draw()[3], "color3f 128 0 0");
     m_slider->changeWidgetEnable(1);
     EXPECT_EQ(draw()[3], "color3fv 255 0 0");
+}
+
+TEST_F(LuDialogSliderBarTest, rampOfASliderBuiltDisabled_isBrightUntilItsEnablingChanges) {
+    m_slider->colors.setValues({LvColor(1, 0, 0), LvColor(0, 0, 1)});
+    m_slider->enable = false;
+    build();
+    EXPECT_EQ(draw()[3], "color3fv 255 0 0");
+    m_slider->changeEnable();
+    EXPECT_EQ(draw()[3], "color3f 128 0 0");
 }
 
 TEST_F(LuDialogSliderTest, colorsBeforeThereAreWindows_areKept) {

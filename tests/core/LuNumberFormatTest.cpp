@@ -64,7 +64,7 @@ TEST_P(LuNumberFormatReal, goodFormat_printsAsTheSystemDoes) {
     EXPECT_EQ(printReal(GetParam().format, GetParam().number), GetParam().text);
 }
 
-constexpr double INFINITE = std::numeric_limits<double>::infinity();
+constexpr double ENDLESS = std::numeric_limits<double>::infinity();
 
 INSTANTIATE_TEST_SUITE_P(LuNumberFormat, LuNumberFormatReal,
                          testing::Values(RealCase{"%f", 1.5, "1.500000"}, RealCase{"%3f", 1.5, "1.500000"},
@@ -75,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(LuNumberFormat, LuNumberFormatReal,
                                          RealCase{"%e", 1500, "1.500000e+03"}, RealCase{"%.0f", 2.5, "2"},
                                          RealCase{"%#.0f", 3, "3."}, RealCase{"%G", 1e-10, "1E-10"},
                                          RealCase{"%.1f%%", 12.5, "12.5%"},
-                                         RealCase{"%06.1f", INFINITE, "   inf"}, RealCase{"%.f", 1.5, "2"}));
+                                         RealCase{"%06.1f", ENDLESS, "   inf"}, RealCase{"%.f", 1.5, "2"}));
 
 TEST(LuNumberFormat, greatestNumberWithTheGreatestPrecision_hasAllDigits) {
     const LvString text = printReal("%99.99f", -std::numeric_limits<double>::max());

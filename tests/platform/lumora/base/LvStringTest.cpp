@@ -213,7 +213,7 @@ TEST_P(LvStringNumber, text_givesItsNumber) {
     EXPECT_EQ(LvString(number.text).toFloat(), number.real);
 }
 
-constexpr float INFINITE = std::numeric_limits<float>::infinity();
+constexpr float ENDLESS = std::numeric_limits<float>::infinity();
 constexpr int LOWEST = std::numeric_limits<int>::min();
 constexpr int HIGHEST = std::numeric_limits<int>::max();
 
@@ -227,13 +227,13 @@ INSTANTIATE_TEST_SUITE_P(
                     NumberCase{"12 34", 12, 12}, NumberCase{"0x10", 0, 0},
                     NumberCase{"2147483647", HIGHEST, 2147483648.0F},
                     NumberCase{"2147483648", HIGHEST, 2147483648.0F},
-                    NumberCase{"-99999999999", LOWEST, -99999999999.0F}, NumberCase{"1e39", 1, INFINITE},
-                    NumberCase{"-1e39", -1, -INFINITE}, NumberCase{"1e999", 1, INFINITE},
-                    NumberCase{"-1e999", -1, -INFINITE}, NumberCase{"1e-50", 1, 0},
-                    NumberCase{"1e-999", 1, 0}, NumberCase{"inf", 0, INFINITE}));
+                    NumberCase{"-99999999999", LOWEST, -99999999999.0F}, NumberCase{"1e39", 1, ENDLESS},
+                    NumberCase{"-1e39", -1, -ENDLESS}, NumberCase{"1e999", 1, ENDLESS},
+                    NumberCase{"-1e999", -1, -ENDLESS}, NumberCase{"1e-50", 1, 0}, NumberCase{"1e-999", 1, 0},
+                    NumberCase{"inf", 0, ENDLESS}));
 
 TEST(LvString, manyDigits_areTooGreatOrTooSmallForAFloat) {
-    EXPECT_EQ(LvString(std::string(400, '9')).toFloat(), INFINITE);
+    EXPECT_EQ(LvString(std::string(400, '9')).toFloat(), ENDLESS);
     EXPECT_EQ(LvString("0." + std::string(400, '0') + "1").toFloat(), 0);
 }
 
