@@ -18,6 +18,7 @@ public:
     bool takesScenePress() const override { return true; }
     void scenePressed(const LuPath& path) override;
     void sceneReleased() override;
+    void sceneGrabLost() override { m_isOperated = false; }
 
     HWND getOperatedWindow() const override { return m_box.getCheckBoxWidget(); }
     void windowMessage(UINT message, WPARAM wParam, bool isInside) override;

@@ -28,6 +28,13 @@ const Node* findGeometry(LuDialogComponent& component) {
 
 } // namespace
 
+RandomComponent::RandomComponent(RandomPanel& panel, LuDialogComponent& component)
+    : m_panel(panel), m_component(component) {
+    m_component.ref();
+}
+
+RandomComponent::~RandomComponent() { m_component.unref(); }
+
 void RandomComponent::addActions(std::vector<RandomAction>& actions) {
     const auto add = [&](const char* name, int weight, std::function<void()> run) {
         actions.push_back({std::string(name) + " " + getName(), weight, std::move(run)});
@@ -67,6 +74,7 @@ void RandomComponent::addActions(std::vector<RandomAction>& actions) {
 }
 
 void RandomComponent::sceneBuilt() {
+    m_isSceneBuilt = true;
     // Until a container says something, or the field changes.
     m_isEnabledInScene = true;
     m_isShownInScene = true;

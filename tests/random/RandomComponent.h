@@ -26,9 +26,9 @@ struct RandomAction {
 /// RandomPanelTest.cpp.
 class RandomComponent {
 public:
-    RandomComponent(RandomPanel& panel, LuDialogComponent& component)
-        : m_panel(panel), m_component(component) {}
-    virtual ~RandomComponent() = default;
+    /// Holds the component, which may be taken out of its container for a while.
+    RandomComponent(RandomPanel& panel, LuDialogComponent& component);
+    virtual ~RandomComponent();
     RandomComponent(const RandomComponent&) = delete;
     RandomComponent& operator=(const RandomComponent&) = delete;
 
@@ -56,6 +56,9 @@ public:
     virtual void scenePressed(const LuPath&) {}
     virtual void sceneReleased() {}
 
+    /// The release will not come: by then it was no longer in the scene.
+    virtual void sceneGrabLost() {}
+
     /// The window that the mouse and the keys operate; null for none.
     virtual HWND getOperatedWindow() const { return nullptr; }
 
@@ -65,6 +68,14 @@ public:
 
     /// Compares what shows with what is expected.
     virtual void check();
+
+    void setContainer(RandomComponent* container) { m_container = container; }
+    void setTakenOut(bool isTakenOut) { m_isTakenOut = isTakenOut; }
+    bool isTakenOut() const { return m_isTakenOut; }
+
+    /// Whether it hangs in the dialog, with all that it stands in.
+    bool isInDialog() const { return !m_isTakenOut && (!m_container || m_container->isInDialog()); }
+    bool isSceneBuilt() const { return m_isSceneBuilt; }
 
     bool takesInputInScene() const { return m_isEnabledInScene && m_isShownInScene; }
 
@@ -80,6 +91,9 @@ protected:
 
     RandomPanel& m_panel;
     LuDialogComponent& m_component;
+    RandomComponent* m_container = nullptr;
+    bool m_isTakenOut = false;
+    bool m_isSceneBuilt = false; ///< Its geometry outlives a stay outside of the dialog; its windows don't.
     bool m_isEnabledInWindows = true;
     bool m_isEnabledInScene = true;
     bool m_isShownInScene = true;

@@ -16,37 +16,41 @@ namespace {
 
 class RandomGroup : public RandomComponent {
 public:
-    RandomGroup(RandomPanel& panel, LuDialogGroup& group) : RandomComponent(panel, group) {
+    RandomGroup(RandomPanel& panel, LuDialogGroup& group) : RandomComponent(panel, group), m_group(group) {
         for (int i = 0; i < group.getNumChildren(); ++i) {
-            if (RandomComponent* const child = panel.add(*group.getChild(i)))
+            if (RandomComponent* const child = panel.add(*group.getChild(i))) {
+                child->setContainer(this);
                 m_children.push_back(child);
+            }
+        }
+    }
+    void addActions(std::vector<RandomAction>& actions) override {
+        RandomComponent::addActions(actions);
+        for (RandomComponent* child : m_children) {
+            actions.push_back(
+                {"take out or put back " + child->getName(), 2, [this, child] { takeOutOrPutBack(*child); }});
         }
     }
     void windowsBuilt() override {
         RandomComponent::windowsBuilt();
-        for (RandomComponent* child : m_children)
-            child->windowsBuilt();
+        forEachInside([](RandomComponent& child) { child.windowsBuilt(); });
         allowInWindows(true);
     }
     void sceneBuilt() override {
         RandomComponent::sceneBuilt();
-        for (RandomComponent* child : m_children)
-            child->sceneBuilt();
+        forEachInside([](RandomComponent& child) { child.sceneBuilt(); });
         allowInScene(true);
     }
     // What a container says of a group is meant for what is in the group.
     void allowInWindows(bool isAllowed) override {
-        for (RandomComponent* child : m_children)
-            child->allowInWindows(isAllowed && isEnableSet());
+        forEachInside([&](RandomComponent& child) { child.allowInWindows(isAllowed && isEnableSet()); });
     }
     void allowInScene(bool isAllowed) override {
-        for (RandomComponent* child : m_children)
-            child->allowInScene(isAllowed && isEnableSet());
+        forEachInside([&](RandomComponent& child) { child.allowInScene(isAllowed && isEnableSet()); });
     }
     void shownInScene(bool isShown) override {
         RandomComponent::shownInScene(isShown);
-        for (RandomComponent* child : m_children)
-            child->shownInScene(isShown);
+        forEachInside([&](RandomComponent& child) { child.shownInScene(isShown); });
     }
 
 protected:
@@ -57,6 +61,32 @@ protected:
     }
 
 private:
+    template <class Call>
+    void forEachInside(Call call) {
+        for (RandomComponent* child : m_children) {
+            if (!child->isTakenOut())
+                call(*child);
+        }
+    }
+    void takeOutOrPutBack(RandomComponent& child) {
+        if (!isInDialog())
+            return;
+        if (child.isTakenOut()) {
+            child.setTakenOut(false);
+            m_group.insertChild(&child.getComponent(),
+                                m_panel.getRandom().below(m_group.getNumChildren() + 1));
+            if (m_panel.hasWindows())
+                child.windowsBuilt();
+            if (m_panel.hasScene() && !child.isSceneBuilt())
+                child.sceneBuilt();
+        } else {
+            child.setTakenOut(true);
+            m_group.removeChild(&child.getComponent());
+        }
+        m_panel.rebuilt();
+    }
+
+    LuDialogGroup& m_group;
     std::vector<RandomComponent*> m_children;
 };
 
@@ -181,13 +211,14 @@ public:
         m_native = Native::RELEASED;
         expectCall();
     }
+    void sceneGrabLost() override { m_isOperated = false; }
 
     HWND getOperatedWindow() const override { return m_button.getButtonWidget(); }
     void windowMessage(UINT message, WPARAM wParam, bool isInside) override {
         const LRESULT state = SendMessageA(getOperatedWindow(), BM_GETSTATE, 0, 0);
         const bool isHeld = GetCapture() == getOperatedWindow() && (state & BST_PUSHED);
         if (message == WM_LBUTTONDOWN && (state & ~LRESULT{BST_FOCUS}) == 0)
-            m_isPressedInScene = m_panel.hasScene();
+            m_isPressedInScene = m_isSceneBuilt;
         const bool isKey = message == WM_KEYUP && wParam == VK_SPACE;
         if (isHeld && (isKey || (message == WM_LBUTTONUP && isInside))) {
             m_isPressedInScene = false;
@@ -221,7 +252,7 @@ public:
 
 protected:
     /// With geometry in the scene a button takes notice of the text on it, and of no other field.
-    bool seesCommonFields() const override { return !m_panel.hasScene(); }
+    bool seesCommonFields() const override { return !m_isSceneBuilt; }
     void labelChanged() override { m_windowLabel = convertRandomText(m_button.label.getValue()); }
 
     /// The native label is made anew in its style, with the enabling of the field.

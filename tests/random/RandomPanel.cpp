@@ -118,8 +118,10 @@ void RandomPanel::check() {
     m_calls.clear();
     m_expectedCalls.clear();
     EXPECT_EQ(LuPanelix::get3DCurrentActive(), m_active);
-    for (const auto& component : m_components)
-        component->check();
+    for (const auto& component : m_components) {
+        if (component->isInDialog())
+            component->check();
+    }
     checkDialog();
     for (const LuDebugMessage& message : getPostedMessages())
         EXPECT_TRUE(message.isInfo) << message.where << ": " << message.text;
@@ -146,6 +148,11 @@ void RandomPanel::checkDialog() {
 void RandomPanel::showChildren(bool isShown) {
     for (RandomComponent* child : m_children)
         child->shownInScene(isShown);
+}
+
+void RandomPanel::rebuilt() {
+    if (m_hasScene && m_isMinimized)
+        showChildren(false);
 }
 
 LvVec3f RandomPanel::getCorner() const {
@@ -197,8 +204,7 @@ void RandomPanel::addDialogActions() {
         m_dialog.width.setValue(m_random.between(200, 500));
         m_dialog.height.setValue(m_random.between(150, 400));
         m_dialog.updateAfterSceneGraphChange();
-        if (m_hasScene && m_isMinimized)
-            showChildren(false);
+        rebuilt();
     });
     addAction("show or hide the window", 1, [this] {
         if (m_random.mostly())

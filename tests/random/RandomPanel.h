@@ -39,6 +39,9 @@ public:
     RandomComponent* add(LuDialogComponent& component);
     void expectCall(const std::string& call) { m_expectedCalls.push_back(call); }
 
+    /// The dialog has been laid out anew.
+    void rebuilt();
+
     /// The component that takes keys and drags in the scene.
     void setActive(LuPanelix* component) { m_active = component; }
     const LuPanelix* getActive() const { return m_active; }
@@ -66,6 +69,7 @@ private:
     LuPath pick(const LvVec3f& place);
     void pressAt(const LvVec3f& place);
     void moveInScene();
+    void loseGrabber();
     void releaseInScene();
     void dialogPressed(const LuPath& path);
     void dialogReleased();

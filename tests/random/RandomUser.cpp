@@ -36,12 +36,14 @@ void RandomPanel::addUserActions() {
                  static_cast<float>(m_random.between(-400, 400)), 0});
     });
     addAction("other buttons in the scene", 2, [this] {
+        loseGrabber();
         m_scene.press(m_place, LuMouseButtonEvent::BUTTON2);
         m_scene.release(LuMouseButtonEvent::BUTTON3);
     });
     addAction("key in the scene", 3, [this] {
         constexpr LuKeyboardEvent::Key KEYS[] = {LuKeyboardEvent::TAB, LuKeyboardEvent::SPACE,
                                                  LuKeyboardEvent::RETURN, LuKeyboardEvent::A};
+        loseGrabber();
         m_scene.key(m_random.from(KEYS));
     });
     addAction("move on the window", 5, [this] { moveOnWindow(); });
@@ -76,8 +78,16 @@ void RandomPanel::pressInScene(LuNode* node) {
         pressAt((box.min + box.max) * 0.5F);
 }
 
+void RandomPanel::loseGrabber() {
+    if (!m_grabber || m_grabber->isInDialog())
+        return;
+    m_grabber->sceneGrabLost();
+    m_grabber = nullptr;
+}
+
 void RandomPanel::pressAt(const LvVec3f& place) {
     m_place = place;
+    loseGrabber();
     if (!m_grabber && m_drag == Drag::NONE) {
         const LuPath path = pick(place);
         const RandomComponent* innermost = nullptr;
@@ -115,6 +125,7 @@ void RandomPanel::dialogPressed(const LuPath& path) {
 }
 
 void RandomPanel::moveInScene() {
+    loseGrabber();
     const LvVec3f before = getCorner();
     m_place += LvVec3f(static_cast<float>(m_random.between(-30, 30)),
                        static_cast<float>(m_random.between(-30, 30)), 0);
@@ -131,6 +142,7 @@ void RandomPanel::moveInScene() {
 }
 
 void RandomPanel::releaseInScene() {
+    loseGrabber();
     const bool isUnderWay = m_grabber || m_drag != Drag::NONE;
     if (m_grabber)
         m_grabber->sceneReleased();
@@ -154,7 +166,8 @@ void RandomPanel::sendToWindow(HWND window, UINT message, WPARAM wParam, LPARAM 
         if (component->getOperatedWindow() == window)
             component->windowMessage(message, wParam, isInside);
     }
-    // Sent and not posted, so that nothing of the desktop's own comes between the expectation and the message.
+    // Sent and not posted, so that nothing of the desktop's own comes between the expectation and the
+    // message.
     SendMessageA(window, message, wParam, lParam);
 }
 
