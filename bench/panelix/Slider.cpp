@@ -14,6 +14,7 @@
 #include "platform/lumora/events/LuEvent.h"
 #include "platform/lumora/io/LuDB.h"
 #include "platform/lumora/nodes/LuCamera.h"
+#include "platform/lumora/nodes/LuGroup.h"
 #include "platform/lumora/nodes/LuText3.h"
 
 #include <cmath>
@@ -112,7 +113,9 @@ void measureValue(int count) {
                                 scene.m_slider->value = i;
                         },
                     .clear = {}});
-    bench::require(scene.m_slider->value.getValue() == CALLS, "the values were set");
+    auto* const group = static_cast<LuGroup*>(scene.m_slider->getPart("editTextSep", false));
+    auto* const text = static_cast<LuText3*>(group->getChild(group->getNumChildren() - 1));
+    bench::require(text->string[0] == "100", "the last value shows");
 }
 
 /// The share of the number's text in that: printing it, and setting it.

@@ -53,6 +53,10 @@ struct RoundingCase {
     int value;
 };
 
+void PrintTo(const RoundingCase& rounding, std::ostream* out) {
+    *out << rounding.position << " of " << rounding.min << " to " << rounding.max;
+}
+
 class LuDialogIntegerSliderRoundingTest : public SliderTest<LuDialogIntegerSlider>,
                                           public testing::WithParamInterface<RoundingCase> {};
 
@@ -348,6 +352,8 @@ struct WidthCase {
     int min, max;
     const char* text;
 };
+
+void PrintTo(const WidthCase& width, std::ostream* out) { *out << width.min << " to " << width.max; }
 
 class LuDialogIntegerSliderWidthTest : public SliderTest<LuDialogIntegerSlider>,
                                        public testing::WithParamInterface<WidthCase> {};

@@ -202,6 +202,8 @@ struct WidthCase {
     const char* text;
 };
 
+void PrintTo(const WidthCase& width, std::ostream* out) { *out << width.min << " to " << width.max; }
+
 class LuDialogRealSliderWidthTest : public SliderTest<LuDialogRealSlider>,
                                     public testing::WithParamInterface<WidthCase> {};
 

@@ -33,24 +33,30 @@ struct WholeCase {
     const char* text;
 };
 
-class LuNumberFormatWhole : public testing::TestWithParam<WholeCase> {};
+constexpr WholeCase WHOLE_CASES[] = {{"%d", -12, "-12"},
+                                     {"%i", 7, "7"},
+                                     {"%u", 7, "7"},
+                                     {"%5d|", 42, "   42|"},
+                                     {"%-5d|", 42, "42   |"},
+                                     {"%05d", -42, "-0042"},
+                                     {"%+d", 42, "+42"},
+                                     {"% d", 42, " 42"},
+                                     {"%.4d", -42, "-0042"},
+                                     {"%06.4d", 42, "  0042"},
+                                     {"%x", 255, "ff"},
+                                     {"%#X", 255, "0XFF"},
+                                     {"%#06x", 255, "0x00ff"},
+                                     {"%o", 8, "10"},
+                                     {"%d %%", 50, "50 %"},
+                                     {"%%%d%%%%", 5, "%5%%"},
+                                     {"about %d px", 3, "about 3 px"},
+                                     {"%d \xc3\xa4", 3, "3 \xc3\xa4"},
+                                     {"%d", std::numeric_limits<int>::min(), "-2147483648"}};
 
-TEST_P(LuNumberFormatWhole, goodFormat_printsAsTheSystemDoes) {
-    EXPECT_EQ(printWhole(GetParam().format, GetParam().number), GetParam().text);
+TEST(LuNumberFormat, goodWholeFormat_printsAsTheSystemDoes) {
+    for (const auto& [format, number, text] : WHOLE_CASES)
+        EXPECT_EQ(printWhole(format, number), text) << format;
 }
-
-INSTANTIATE_TEST_SUITE_P(LuNumberFormat, LuNumberFormatWhole,
-                         testing::Values(WholeCase{"%d", -12, "-12"}, WholeCase{"%i", 7, "7"},
-                                         WholeCase{"%u", 7, "7"}, WholeCase{"%5d|", 42, "   42|"},
-                                         WholeCase{"%-5d|", 42, "42   |"}, WholeCase{"%05d", -42, "-0042"},
-                                         WholeCase{"%+d", 42, "+42"}, WholeCase{"% d", 42, " 42"},
-                                         WholeCase{"%.4d", -42, "-0042"}, WholeCase{"%06.4d", 42, "  0042"},
-                                         WholeCase{"%x", 255, "ff"}, WholeCase{"%#X", 255, "0XFF"},
-                                         WholeCase{"%#06x", 255, "0x00ff"}, WholeCase{"%o", 8, "10"},
-                                         WholeCase{"%d %%", 50, "50 %"}, WholeCase{"%%%d%%%%", 5, "%5%%"},
-                                         WholeCase{"about %d px", 3, "about 3 px"},
-                                         WholeCase{"%d \xc3\xa4", 3, "3 \xc3\xa4"},
-                                         WholeCase{"%d", std::numeric_limits<int>::min(), "-2147483648"}));
 
 struct RealCase {
     const char* format;
@@ -58,24 +64,28 @@ struct RealCase {
     const char* text;
 };
 
-class LuNumberFormatReal : public testing::TestWithParam<RealCase> {};
-
-TEST_P(LuNumberFormatReal, goodFormat_printsAsTheSystemDoes) {
-    EXPECT_EQ(printReal(GetParam().format, GetParam().number), GetParam().text);
-}
-
 constexpr double ENDLESS = std::numeric_limits<double>::infinity();
 
-INSTANTIATE_TEST_SUITE_P(LuNumberFormat, LuNumberFormatReal,
-                         testing::Values(RealCase{"%f", 1.5, "1.500000"}, RealCase{"%3f", 1.5, "1.500000"},
-                                         RealCase{"%.1f", 0.25, "0.2"}, RealCase{"%lf", 1, "1.000000"},
-                                         RealCase{"%8.2f|", -1.5, "   -1.50|"},
-                                         RealCase{"%08.2f", -1.5, "-0001.50"},
-                                         RealCase{"%-8.2f|", 1.5, "1.50    |"}, RealCase{"%+g", 1.5, "+1.5"},
-                                         RealCase{"%e", 1500, "1.500000e+03"}, RealCase{"%.0f", 2.5, "2"},
-                                         RealCase{"%#.0f", 3, "3."}, RealCase{"%G", 1e-10, "1E-10"},
-                                         RealCase{"%.1f%%", 12.5, "12.5%"},
-                                         RealCase{"%06.1f", ENDLESS, "   inf"}, RealCase{"%.f", 1.5, "2"}));
+constexpr RealCase REAL_CASES[] = {{"%f", 1.5, "1.500000"},
+                                   {"%3f", 1.5, "1.500000"},
+                                   {"%.1f", 0.25, "0.2"},
+                                   {"%lf", 1, "1.000000"},
+                                   {"%8.2f|", -1.5, "   -1.50|"},
+                                   {"%08.2f", -1.5, "-0001.50"},
+                                   {"%-8.2f|", 1.5, "1.50    |"},
+                                   {"%+g", 1.5, "+1.5"},
+                                   {"%e", 1500, "1.500000e+03"},
+                                   {"%.0f", 2.5, "2"},
+                                   {"%#.0f", 3, "3."},
+                                   {"%G", 1e-10, "1E-10"},
+                                   {"%.1f%%", 12.5, "12.5%"},
+                                   {"%06.1f", ENDLESS, "   inf"},
+                                   {"%.f", 1.5, "2"}};
+
+TEST(LuNumberFormat, goodRealFormat_printsAsTheSystemDoes) {
+    for (const auto& [format, number, text] : REAL_CASES)
+        EXPECT_EQ(printReal(format, number), text) << format;
+}
 
 TEST(LuNumberFormat, greatestNumberWithTheGreatestPrecision_hasAllDigits) {
     const LvString text = printReal("%99.99f", -std::numeric_limits<double>::max());
@@ -88,21 +98,6 @@ struct BadCase {
     const char* fault;
 };
 
-class LuNumberFormatBad : public testing::TestWithParam<BadCase> {};
-
-TEST_P(LuNumberFormatBad, badFormat_isReportedOnceAndTheFallbackTaken) {
-    const auto& [kind, text, fault] = GetParam();
-    const bool isWhole = kind == LuNumberFormat::WHOLE;
-    LuNumberFormat format(kind, isWhole ? "%d" : "%.3f");
-    expectMessage("LuNumberFormat", std::string("\"") + text + "\" is no format for a " +
-                                        (isWhole ? "whole" : "real") + " number: " + fault + ". \"" +
-                                        (isWhole ? "%d" : "%.3f") + "\" is used instead.");
-    for (int i = 0; i < 2; ++i) {
-        format.set(text);
-        EXPECT_EQ(isWhole ? format.print(5) : format.print(5.0), isWhole ? "5" : "5.000");
-    }
-}
-
 constexpr auto WHOLE = LuNumberFormat::WHOLE;
 constexpr auto REAL = LuNumberFormat::REAL;
 constexpr const char* NONE = "it has no conversion";
@@ -110,20 +105,54 @@ constexpr const char* MANY = "it has more than one conversion";
 constexpr const char* UNFIT = "its conversion does not fit";
 constexpr const char* WIDE = "its width or its precision is too great";
 
-INSTANTIATE_TEST_SUITE_P(
-    LuNumberFormat, LuNumberFormatBad,
-    testing::Values(BadCase{WHOLE, "", NONE}, BadCase{WHOLE, "text", NONE}, BadCase{WHOLE, "100%%", NONE},
-                    BadCase{WHOLE, "%s", UNFIT}, BadCase{WHOLE, "%n", UNFIT}, BadCase{WHOLE, "%c", UNFIT},
-                    BadCase{WHOLE, "%p", UNFIT}, BadCase{WHOLE, "%f", UNFIT}, BadCase{WHOLE, "%*d", UNFIT},
-                    BadCase{WHOLE, "%.*d", UNFIT}, BadCase{WHOLE, "%1$d", UNFIT},
-                    BadCase{WHOLE, "%'d", UNFIT}, BadCase{WHOLE, "%ld", UNFIT}, BadCase{WHOLE, "%lld", UNFIT},
-                    BadCase{WHOLE, "%hhd", UNFIT}, BadCase{WHOLE, "%", UNFIT}, BadCase{WHOLE, "%5", UNFIT},
-                    BadCase{WHOLE, "%d%d", MANY}, BadCase{WHOLE, "%d%n", MANY}, BadCase{WHOLE, "%d%", MANY},
-                    BadCase{WHOLE, "%1000000000d", WIDE}, BadCase{WHOLE, "%99999999999999999999d", WIDE},
-                    BadCase{WHOLE, "%.1000000000d", WIDE}, BadCase{REAL, "%d", UNFIT},
-                    BadCase{REAL, "%s", UNFIT}, BadCase{REAL, "%n", UNFIT}, BadCase{REAL, "%Lf", UNFIT},
-                    BadCase{REAL, "%llf", UNFIT}, BadCase{REAL, "%hf", UNFIT}, BadCase{REAL, "%*f", UNFIT},
-                    BadCase{REAL, "%f %f", MANY}, BadCase{REAL, "%.100f", WIDE}, BadCase{REAL, "", NONE}));
+constexpr BadCase BAD_CASES[] = {{WHOLE, "", NONE},
+                                 {WHOLE, "text", NONE},
+                                 {WHOLE, "100%%", NONE},
+                                 {WHOLE, "%s", UNFIT},
+                                 {WHOLE, "%n", UNFIT},
+                                 {WHOLE, "%c", UNFIT},
+                                 {WHOLE, "%p", UNFIT},
+                                 {WHOLE, "%f", UNFIT},
+                                 {WHOLE, "%*d", UNFIT},
+                                 {WHOLE, "%.*d", UNFIT},
+                                 {WHOLE, "%1$d", UNFIT},
+                                 {WHOLE, "%'d", UNFIT},
+                                 {WHOLE, "%ld", UNFIT},
+                                 {WHOLE, "%lld", UNFIT},
+                                 {WHOLE, "%hhd", UNFIT},
+                                 {WHOLE, "%", UNFIT},
+                                 {WHOLE, "%5", UNFIT},
+                                 {WHOLE, "%d%d", MANY},
+                                 {WHOLE, "%d%n", MANY},
+                                 {WHOLE, "%d%", MANY},
+                                 {WHOLE, "%1000000000d", WIDE},
+                                 {WHOLE, "%99999999999999999999d", WIDE},
+                                 {WHOLE, "%.1000000000d", WIDE},
+                                 {REAL, "%d", UNFIT},
+                                 {REAL, "%s", UNFIT},
+                                 {REAL, "%n", UNFIT},
+                                 {REAL, "%Lf", UNFIT},
+                                 {REAL, "%llf", UNFIT},
+                                 {REAL, "%hf", UNFIT},
+                                 {REAL, "%*f", UNFIT},
+                                 {REAL, "%f %f", MANY},
+                                 {REAL, "%.100f", WIDE},
+                                 {REAL, "", NONE}};
+
+TEST(LuNumberFormat, badFormat_isReportedOnceAndTheFallbackTaken) {
+    for (const auto& [kind, text, fault] : BAD_CASES) {
+        const bool isWhole = kind == WHOLE;
+        const std::string fallback = isWhole ? "%d" : "%.3f";
+        LuNumberFormat format(kind, isWhole ? "%d" : "%.3f");
+        expectMessage("LuNumberFormat", std::string("\"") + text + "\" is no format for a " +
+                                            (isWhole ? "whole" : "real") + " number: " + fault + ". \"" +
+                                            fallback + "\" is used instead.");
+        for (int i = 0; i < 2; ++i) {
+            format.set(text);
+            EXPECT_EQ(isWhole ? format.print(5) : format.print(5.0), isWhole ? "5" : "5.000") << text;
+        }
+    }
+}
 
 TEST(LuNumberFormat, longBadFormat_isShownInPart) {
     LuNumberFormat format(LuNumberFormat::WHOLE, "%d");
