@@ -2,7 +2,8 @@
 #include "tests/twin/Twin.h"
 
 #include "controls/LuDialogIntegerSlider.h"
-#include "controls/LuDialogRealSlider.h" #include "tests/host/ComponentTest.h"
+#include "controls/LuDialogRealSlider.h"
+#include "tests/host/ComponentTest.h"
 
 #include <cstdio>
 
