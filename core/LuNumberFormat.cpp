@@ -30,15 +30,13 @@ int readNumber(std::string_view text, std::size_t& at) {
     return number;
 }
 
-/// The system writes the point of the process's locale.
-void replaceDecimalPoint(std::string& digits) {
-    const std::string_view point = std::localeconv()->decimal_point;
+} // namespace
+
+void luReplaceDecimalPoint(std::string& digits, std::string_view point) {
     const std::size_t place = point.empty() ? digits.npos : digits.find(point);
     if (place != digits.npos)
         digits.replace(place, point.size(), ".");
 }
-
-} // namespace
 
 LuNumberFormat::LuNumberFormat(Kind kind, const char* fallback)
     : m_kind(kind), m_fallback(fallback), m_text(fallback) {
@@ -126,7 +124,8 @@ LvString LuNumberFormat::print(double number) const {
     char digits[BUFFER_SIZE];
     std::snprintf(digits, sizeof digits, getSpecification().c_str(), number);
     std::string text = digits;
-    replaceDecimalPoint(text);
+    // The system writes the point of the process's locale.
+    luReplaceDecimalPoint(text, std::localeconv()->decimal_point);
     return pad(text, std::isfinite(number));
 }
 

@@ -3,6 +3,12 @@
 
 #include "platform/lumora/base/LvString.h"
 
+#include <string>
+#include <string_view>
+
+/// Writes "." where `digits` have the decimal point of another locale.
+void luReplaceDecimalPoint(std::string& digits, std::string_view point);
+
 /// The printf format of a shown number. Files and programs bring it, so it is checked before it is used: it
 /// needs one conversion that fits the number, with a width and a precision that do no harm, and may have text
 /// and "%%" about that. Numbers look the same in every locale.

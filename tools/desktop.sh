@@ -165,6 +165,22 @@ click_on() {
     click_at $((x + width - 15)) $((y + height / 2))
 }
 
+# click_in_panel ID: the same for a panel that is seen from the front, a unit a pixel, in a scene's window. Its frame
+# stands at PANEL_X, PANEL_Y there, and its children in it as in a window.
+click_in_panel() {
+    local x y width height
+    read -r x y width height < <(get_place "$1")
+    click_at $((PANEL_X + x + width - 15)) $((PANEL_Y + y + height / 2))
+}
+
+# play_scene PROGRAM.exe [ARGUMENT...]: a program that plays a file to its scene; it says what it says.
+play_scene() {
+    local output=$PANELIX_ROOT/build/play-scene.txt status=0
+    run_wine "$output" 120 "$@" || status=$?
+    cat "$output"
+    return $status
+}
+
 press_key() {
     timeout 5 xdotool key "$1"
     settle
