@@ -233,11 +233,7 @@ protected:
     /// Writes a field without waking its own sensor, which may be null.
     template <class Field, class Value>
     static void setWithoutSensor(Field& field, const Value& value, LuFieldSensor* sensor) {
-        if (sensor)
-            sensor->detach();
-        field.setValue(value);
-        if (sensor)
-            sensor->attach(&field);
+        field.setValueUnheardBy(sensor, value);
     }
 
     /// Adds the depth of what hangs below `node`, and the parent's offset, to `translation`. `depth` -1 means

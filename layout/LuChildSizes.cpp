@@ -66,34 +66,32 @@ std::int64_t LuChildSizes::getCapacity(int index, int axis, int step) const {
     return step > 0 ? child.maxSize[axis] - size : size - child.minSize[axis];
 }
 
-/// Takes the turns that surely go all the way round at once, with the outcome of taking them one by one. The
-/// last round is left to the caller, since it may end at any child. `failures` becomes the number of children
-/// that refused since the last that took a pixel.
-std::int64_t LuChildSizes::takeWholeRounds(int axis, std::int64_t pixels, int step, int& failures) {
-    // Mostly there is room for all: then each takes the same.
-    const std::int64_t equalRounds = (pixels - 1) / getCount();
-    std::int64_t largest = 0;
+/// The largest number of whole rounds for which there are pixels, and one more for the last round.
+std::int64_t LuChildSizes::findWholeRounds(int axis, std::int64_t pixels, int step) const {
     std::int64_t smallest = LuSizes::UNLIMITED;
+    std::int64_t largest = 0;
+    int numTakers = 0;
     for (int i = 0; i < getCount(); ++i) {
         const std::int64_t capacity = getCapacity(i, axis, step);
-        largest = std::max(largest, capacity);
+        if (capacity == 0)
+            continue;
         smallest = std::min(smallest, capacity);
+        largest = std::max(largest, capacity);
+        ++numTakers;
     }
-    if (smallest > equalRounds) {
-        for (LuSizes& child : m_sizes)
-            child.size[axis] = static_cast<int>(child.size[axis] + step * equalRounds);
-        return pixels - equalRounds * getCount();
-    }
-    std::vector<std::int64_t> capacities;
-    for (int i = 0; i < getCount(); ++i)
-        capacities.push_back(getCapacity(i, axis, step));
-    const auto getTaken = [&capacities](std::int64_t rounds) {
+    if (numTakers == 0)
+        return 0;
+    // Mostly there is room for all that take any: then each takes the same.
+    const std::int64_t equalRounds = (pixels - 1) / numTakers;
+    if (smallest > equalRounds)
+        return equalRounds;
+    const auto getTaken = [this, axis, step](std::int64_t rounds) {
         std::int64_t taken = 0;
-        for (const std::int64_t capacity : capacities)
-            taken += std::min(capacity, rounds);
+        for (int i = 0; i < getCount(); ++i)
+            taken += std::min(getCapacity(i, axis, step), rounds);
         return taken;
     };
-    std::int64_t rounds = 0;
+    std::int64_t rounds = std::min(equalRounds, largest);
     std::int64_t limit = std::min(largest, pixels);
     while (rounds < limit) {
         const std::int64_t middle = rounds + (limit - rounds + 1) / 2;
@@ -102,16 +100,25 @@ std::int64_t LuChildSizes::takeWholeRounds(int axis, std::int64_t pixels, int st
         else
             limit = middle - 1;
     }
+    return rounds;
+}
+
+/// Takes the turns that surely go all the way round at once, with the outcome of taking them one by one. The
+/// last round is left to the caller, since it may end at any child. `failures` becomes the number of children
+/// that refused since the last that took a pixel.
+std::int64_t LuChildSizes::takeWholeRounds(int axis, std::int64_t pixels, int step, int& failures) {
+    const std::int64_t rounds = findWholeRounds(axis, pixels, step);
     if (rounds == 0)
         return pixels;
-    for (std::size_t i = 0; i < capacities.size(); ++i) {
-        const std::int64_t taken = std::min(capacities[i], rounds);
-        m_sizes[i].size[axis] = static_cast<int>(m_sizes[i].size[axis] + step * taken);
+    int last = m_next;
+    for (failures = -1; failures < 0 || getCapacity(last, axis, step) < rounds; ++failures)
+        last = last == 0 ? getCount() - 1 : last - 1;
+    for (int i = 0; i < getCount(); ++i) {
+        const std::int64_t taken = std::min(getCapacity(i, axis, step), rounds);
+        int& size = (*this)[i].size[axis];
+        size = static_cast<int>(size + step * taken);
         pixels -= taken;
     }
-    std::size_t last = static_cast<std::size_t>(m_next);
-    for (failures = -1; failures < 0 || capacities[last] < rounds; ++failures)
-        last = last == 0 ? capacities.size() - 1 : last - 1;
     return pixels;
 }
 

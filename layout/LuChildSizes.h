@@ -32,6 +32,7 @@ public:
 
 private:
     std::int64_t getCapacity(int index, int axis, int step) const;
+    std::int64_t findWholeRounds(int axis, std::int64_t pixels, int step) const;
     std::int64_t takeWholeRounds(int axis, std::int64_t pixels, int step, int& failures);
 
     std::vector<LuSizes> m_sizes;

@@ -78,7 +78,7 @@ void LuDialogComponent::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& pos
     }
     LuSizes sizes;
     getSize(sizes.size, sizes.minSize, sizes.maxSize);
-    sizes.size = {sizes.getAskedSize(0, size.x), sizes.getAskedSize(1, size.y)};
+    sizes.ask(size);
     if (fixedWidth.getValue())
         sizes.minSize.x = sizes.maxSize.x = sizes.size.x;
     if (fixedHeight.getValue())

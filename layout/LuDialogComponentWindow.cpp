@@ -8,8 +8,22 @@
 
 namespace {
 
+/// The component that a message to its carrier window is for. Most are for none, as those of a layout.
+LuDialogComponent* getReceiver(HWND window, UINT message) {
+    switch (message) {
+    case WM_DRAWITEM:
+    case WM_NOTIFY:
+    case WM_COMMAND:
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+        return reinterpret_cast<LuDialogComponent*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+    default:
+        return nullptr;
+    }
+}
+
 LRESULT CALLBACK carrierProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* const component = reinterpret_cast<LuDialogComponent*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+    LuDialogComponent* const component = getReceiver(window, message);
     if (!component)
         return DefWindowProcA(window, message, wParam, lParam);
     switch (message) {
@@ -27,11 +41,9 @@ LRESULT CALLBACK carrierProcedure(HWND window, UINT message, WPARAM wParam, LPAR
         component->eventNotify(message, wParam);
         LuScrollBars::scroll(window, SB_HORZ, wParam);
         return 0;
-    case WM_VSCROLL:
+    default: // WM_VSCROLL
         LuScrollBars::scroll(window, SB_VERT, wParam);
         return 0;
-    default:
-        return DefWindowProcA(window, message, wParam, lParam);
     }
 }
 

@@ -1,34 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "layout/LuSizes.h"
 
-namespace {
-
-void fill(int& value, int defaultValue) {
-    if (value == 0)
-        value = defaultValue;
-}
-
-} // namespace
-
-void LuSizes::fillFrom(const LuSizes& defaults) {
-    for (int axis = 0; axis < 2; ++axis) {
-        fill(minSize[axis], defaults.minSize[axis]);
-        fill(maxSize[axis], defaults.maxSize[axis]);
-        fill(size[axis], defaults.size[axis]);
-    }
-}
-
-void LuSizes::limit() {
-    for (int axis = 0; axis < 2; ++axis)
-        size[axis] = std::min(maxSize[axis], std::max(size[axis], minSize[axis]));
-}
-
-int LuSizes::getAskedSize(int axis, int asked) const {
-    if (asked == 0)
-        return size[axis];
-    return asked >= minSize[axis] ? std::min(asked, maxSize[axis]) : minSize[axis];
-}
-
 LuSizeFields::~LuSizeFields() {
     for (LuFieldSensor* sensor : m_sensors)
         delete sensor;
@@ -48,17 +20,11 @@ LuSizes LuSizeFields::getSizes() const {
 void LuSizeFields::write(int index, int value) {
     LuSFInt32& field = getField(index);
     LuFieldSensor* const sensor = getSensor(index);
-    const int ownObservers = sensor ? 1 : 0;
     // Most sizes stay as they are in most layouts, and telling the whole tree of it is what would cost.
-    if (field.getValue() == value && field.getObservers().getLength() == ownObservers) {
+    if (field.getValue() == value && field.isWatchedOnlyBy(sensor))
         field.setDefault(false);
-        return;
-    }
-    if (sensor)
-        sensor->setPaused(true);
-    field.setValue(value);
-    if (sensor)
-        sensor->setPaused(false);
+    else
+        field.setValueUnheardBy(sensor, value);
 }
 
 void LuSizeFields::write(const LuSizes& sizes) {

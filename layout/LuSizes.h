@@ -33,13 +33,30 @@ struct LuSizes {
     }
 
     /// Takes the default for each value that is open.
-    void fillFrom(const LuSizes& defaults);
+    void fillFrom(const LuSizes& defaults) {
+        const auto fill = [](LvVec2i32& values, const LvVec2i32& others) {
+            values = {values.x == 0 ? others.x : values.x, values.y == 0 ? others.y : values.y};
+        };
+        fill(size, defaults.size);
+        fill(minSize, defaults.minSize);
+        fill(maxSize, defaults.maxSize);
+    }
 
     /// Brings the size between its limits; on a conflict the maximum wins.
-    void limit();
+    void limit() {
+        size.x = std::min(maxSize.x, std::max(size.x, minSize.x));
+        size.y = std::min(maxSize.y, std::max(size.y, minSize.y));
+    }
 
-    /// The size to take when `asked` is asked for; 0 asks for nothing, and a conflict goes to the minimum.
-    int getAskedSize(int axis, int asked) const;
+    /// The size becomes what is asked for; 0 asks for nothing, and a conflict goes to the minimum.
+    void ask(const LvVec2i32& asked) {
+        const auto get = [](int present, int wanted, int least, int most) {
+            if (wanted == 0)
+                return present;
+            return wanted >= least ? std::min(wanted, most) : least;
+        };
+        size = {get(size.x, asked.x, minSize.x, maxSize.x), get(size.y, asked.y, minSize.y, maxSize.y)};
+    }
 };
 
 /// The size fields of a component with their sensors, and what the user has set in them. It belongs to the

@@ -39,9 +39,12 @@ void LuStackDialog::fixPosWithComponentBorder(LvVec2i32& position) const {
 
 void LuStackDialog::getDefaultSize(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize) {
     updateChildrenSizeDB();
-    for (int i = 0; i < getNumChildren(); ++i) {
-        LuSizes& child = m_childSizes[i];
-        getChild(i)->getSize(child.size, child.minSize, child.maxSize);
+    for (int i = 0; i < m_childSizes.getCount(); ++i) {
+        LuDialogComponent* const child = getChild(i);
+        if (!child)
+            break;
+        LuSizes& sizes = m_childSizes[i];
+        child->getSize(sizes.size, sizes.minSize, sizes.maxSize);
     }
     const LuSizes total = m_childSizes.getTotal(m_axis, margin.getValue(), getGaps());
     size = total.size;
@@ -72,8 +75,10 @@ void LuStackDialog::placeChildren(LvVec2i32 position, int cross, Build build) {
     }
     LvVec2i32 size;
     size[1 - m_axis] = luClampSize(shared);
-    for (int i = 0; i < getNumChildren() && i < m_childSizes.getCount(); ++i) {
+    for (int i = 0; i < m_childSizes.getCount(); ++i) {
         LuDialogComponent* const child = getChild(i);
+        if (!child)
+            return;
         size[m_axis] = m_childSizes[i].size[m_axis];
         build(child, size, position);
         const int taken = m_axis == 0 ? child->width.getValue() : child->height.getValue();

@@ -174,7 +174,7 @@ void LuTopLevelDialog::buildWidget(HWND parent, LvVec2i32& size, LvVec2i32& buil
     m_childSizes.setCount(getNumChildren());
     LuSizes sizes;
     getSize(sizes.size, sizes.minSize, sizes.maxSize);
-    sizes.size = {sizes.getAskedSize(0, size.x), sizes.getAskedSize(1, size.y)};
+    sizes.ask(size);
     if (!resizable.getValue())
         sizes.minSize = sizes.maxSize = sizes.size;
     m_sizes.write(sizes);

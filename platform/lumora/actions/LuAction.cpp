@@ -3,6 +3,13 @@
 
 #include "platform/lumora/nodes/LuNode.h"
 
+namespace {
+
+/// Mostly a search goes no deeper.
+constexpr std::size_t USUAL_DEPTH = 8;
+
+} // namespace
+
 /// One apply. It keeps the place of a walk that goes on outside of it.
 class LuAction::Walk {
 public:
@@ -46,6 +53,8 @@ void LuAction::start() {
     m_state = {};
     m_hasTerminated = false;
     m_steps.clear();
+    if (m_keepsSteps)
+        m_steps.reserve(USUAL_DEPTH);
     begin();
 }
 
@@ -132,6 +141,7 @@ void LuAction::visitChild(LuNode* child, int index) {
 
 LuPath LuAction::makePath(const std::vector<Step>& steps) {
     LuPath path;
+    path.reserve(steps.size());
     for (const Step& step : steps)
         path.append(step.node, step.index);
     return path;

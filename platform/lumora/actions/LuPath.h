@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
+#include <cstddef>
+#include <utility>
 #include <vector>
 
 class LuNode;
@@ -18,7 +19,17 @@ public:
 
     LuPath(const LuPath& other) { *this = other; }
     LuPath& operator=(const LuPath& other);
+
+    /// The other path is empty afterwards.
+    LuPath(LuPath&& other) noexcept { swap(other); }
+    LuPath& operator=(LuPath&& other) noexcept {
+        LuPath(std::move(other)).swap(*this);
+        return *this;
+    }
     ~LuPath() { truncate(0); }
+
+    /// Makes room for so many nodes at once.
+    void reserve(std::size_t length) { m_steps.reserve(length); }
 
     /// Adds a node; `index` is its place in the node before it.
     void append(LuNode* node, int index);
@@ -43,6 +54,10 @@ public:
     void setNumPublic(int count) { m_numPublic = count; }
 
 private:
+    void swap(LuPath& other) noexcept {
+        m_steps.swap(other.m_steps);
+        std::swap(m_numPublic, other.m_numPublic);
+    }
     bool extendTo(LuNode* node, int index, const LuNode* target);
 
     struct Step {

@@ -28,12 +28,14 @@ private:
 /// bring it back. The nodes pointed to live longer than the traversal.
 class LuTraversalState {
 public:
+    inline static const LvName DEFAULT_FONT{"Tahoma"};
+
     LvMatrix model; ///< From the current node's space to that of the innermost separator with a cache, or the
                     ///< root's where the action keeps no caches.
 
     LuViewVolumeElement viewVolume;
 
-    LvName fontName{"Tahoma"};
+    LvName fontName = DEFAULT_FONT;
     float fontSize = 10.0F; ///< Scene units.
     const LuCoordinate3* coordinates = nullptr;
     int pickStyle = 0; ///< LuPickStyle::Style.

@@ -80,7 +80,7 @@ bool LuBase::enableNotify(bool isEnabled) {
     return before;
 }
 
-void LuBase::startNotify(LuField* field) {
+void LuBase::tellOfChange(LuField* field) {
     LuNotification notification{this, field, ++s_lastStamp, false};
     notify(notification);
 }
@@ -88,7 +88,7 @@ void LuBase::startNotify(LuField* field) {
 int LuBase::s_numListeners = 0;
 
 void LuBase::notify(LuNotification& notification) {
-    if (m_notifyStamp == notification.stamp || (m_hasToldAbove && s_numListeners == 0))
+    if (m_notifyStamp == notification.stamp || hasAllBeenTold())
         return;
     m_notifyStamp = notification.stamp;
     m_hasToldAbove = true;

@@ -78,7 +78,10 @@ public:
     bool isNotifyEnabled() const { return m_isNotifyEnabled; }
 
     /// Tells all observers that this object, or with `field` this field of it, has changed.
-    void startNotify(LuField* field = nullptr);
+    void startNotify(LuField* field = nullptr) {
+        if (!hasAllBeenTold())
+            tellOfChange(field);
+    }
 
     /// Takes a change in from below and hands it on. Called by the fields and lists that hold objects.
     ///
@@ -137,6 +140,10 @@ protected:
     virtual void invalidateCaches() {}
 
 private:
+    /// Whether all that lies above knows of a change already.
+    bool hasAllBeenTold() const { return m_hasToldAbove && s_numListeners == 0; }
+    void tellOfChange(LuField* field);
+
     LvName m_name;
     LuObserverList m_observers;
     std::uint32_t m_notifyStamp = 0;

@@ -48,6 +48,9 @@ public:
     ~LuObserverList();
 
     bool isEmpty() const { return m_bits == 0; }
+
+    /// True when one entry of the observer is all that there is.
+    bool holdsOnly(LuObserver observer) const { return m_bits == observer.m_bits; }
     int getLength() const;
     LuObserver operator[](int index) const;
     bool contains(LuObserver observer) const;

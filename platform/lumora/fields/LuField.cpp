@@ -63,20 +63,20 @@ LuField* LuField::getConnectedField() const { return m_isConnected ? getMasters(
 
 void LuField::notifyFromBelow(LuNotification& notification) {
     const LuKeepAlive alive(m_container);
-    tellObservers(notification);
+    tellObservers(notification, nullptr);
     if (m_container)
         m_container->notify(notification);
 }
 
-void LuField::tellObservers(LuNotification& notification) {
+void LuField::tellObservers(LuNotification& notification, LuSensor* deaf) {
     const bool wasMuted = notification.isMuted;
     notification.isMuted = wasMuted || (m_container && !m_container->isNotifyEnabled());
     if (!notification.isMuted)
         m_observers.forEach([&](LuObserver observer) {
-            if (observer.getKind() == LuObserver::Kind::SENSOR)
-                observer.getSensor()->notify(notification);
-            else
+            if (observer.getKind() != LuObserver::Kind::SENSOR)
                 passOn(*observer.getField());
+            else if (observer.getSensor() != deaf)
+                observer.getSensor()->notify(notification);
         });
     notification.isMuted = wasMuted;
 }
@@ -90,12 +90,18 @@ void LuField::passOn(LuField& slave) {
     m_isPassingOn = false;
 }
 
-void LuField::tellOfChange() {
+void LuField::tellOfChange(LuSensor* deaf) {
+    if (isWatchedOnlyBy(deaf)) {
+        if (m_container)
+            m_container->startNotify(this);
+        return;
+    }
     const LuKeepAlive alive(m_container);
     if (m_container)
         m_container->startNotify(this);
-    if (!m_observers.isEmpty()) {
+    // Those who heard of it there may have left meanwhile.
+    if (!isWatchedOnlyBy(deaf)) {
         LuNotification notification{m_container, this, 0, false};
-        tellObservers(notification);
+        tellObservers(notification, deaf);
     }
 }

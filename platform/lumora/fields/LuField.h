@@ -67,6 +67,11 @@ public:
     void removeObserver(LuObserver observer) { m_observers.remove(observer); }
     const LuObserverList& getObservers() const { return m_observers; }
 
+    /// True when nobody watches the field but this sensor, which may be null.
+    bool isWatchedOnlyBy(LuSensor* sensor) const {
+        return m_observers.isEmpty() || (sensor && m_observers.holdsOnly(LuObserver(sensor)));
+    }
+
     /// An object that this field holds has changed.
     void notifyFromBelow(LuNotification& notification);
 
@@ -81,12 +86,19 @@ protected:
         if (clearDefault)
             m_isDefault = false;
         if (m_container || !m_observers.isEmpty())
-            tellOfChange();
+            tellOfChange(nullptr);
+    }
+
+    /// The same as if a sensor, which may be null, were not attached.
+    void valueChangedUnheardBy(LuSensor* sensor) {
+        m_isDefault = false;
+        if (m_container || !m_observers.isEmpty())
+            tellOfChange(sensor);
     }
 
 private:
-    void tellOfChange();
-    void tellObservers(LuNotification& notification);
+    void tellOfChange(LuSensor* deaf);
+    void tellObservers(LuNotification& notification, LuSensor* deaf);
     void passOn(LuField& slave);
 
     LuFieldContainer* m_container = nullptr;

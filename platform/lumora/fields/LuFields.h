@@ -32,6 +32,12 @@ public:
         m_value = value;
         valueChanged();
     }
+
+    /// The same as if a sensor, which may be null, were not attached meanwhile.
+    void setValueUnheardBy(LuSensor* sensor, const T& value) {
+        m_value = value;
+        valueChangedUnheardBy(sensor);
+    }
     LuSFValue& operator=(const T& value) {
         setValue(value);
         return *this;

@@ -104,11 +104,6 @@ void LuFieldSensor::detach() {
     forgetTrigger();
 }
 
-void LuFieldSensor::notify(const LuNotification& notification) {
-    if (!m_isPaused)
-        LuDataSensor::notify(notification);
-}
-
 void LuNodeSensor::attach(LuBase* node) {
     detach();
     m_node = node;

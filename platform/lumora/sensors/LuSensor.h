@@ -91,15 +91,9 @@ public:
     void detach();
     LuField* getAttachedField() const { return m_field; }
 
-    /// Is deaf meanwhile, as if it were detached; which is what a write that the sensor must not hear does a
-    /// hundred times a layout.
-    void setPaused(bool isPaused) { m_isPaused = isPaused; }
-    void notify(const LuNotification& notification) override;
-
 private:
     friend class LuField;
     LuField* m_field = nullptr;
-    bool m_isPaused = false;
 };
 
 /// Fires when an object, or anything below it, changes.

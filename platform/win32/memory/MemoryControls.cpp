@@ -207,7 +207,7 @@ LRESULT buttonProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_GETFONT:
         return reinterpret_cast<LRESULT>(window->font);
     default:
-        return DefWindowProcA(handle, message, wParam, lParam);
+        return handleByDefault(*window, message, wParam, lParam);
     }
 }
 
@@ -234,6 +234,6 @@ LRESULT staticProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
     case STM_GETIMAGE:
         return reinterpret_cast<LRESULT>(window->image);
     default:
-        return DefWindowProcA(handle, message, wParam, lParam);
+        return handleByDefault(*window, message, wParam, lParam);
     }
 }

@@ -252,7 +252,7 @@ HWND CreateWindowExW(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD styl
 
 BOOL DestroyWindow(HWND handle) {
     LuMemoryWindow* window = findMemoryWindowOrFail(handle);
-    if (!window || window == getMemoryDesktop().root)
+    if (!window || isDesktopWindow(*window))
         return FALSE;
     if (window->isDying)
         return TRUE;

@@ -23,7 +23,7 @@ void announceChange(LuMemoryWindow& window, const WINDOWPOS& position) {
     const HWND handle = getHandle(&window);
     if (!(position.flags & noClientMove))
         sendMove(window);
-    if (!(position.flags & noClientSize) && findMemoryWindow(handle))
+    if (!(position.flags & noClientSize) && getHandle(&window) == handle)
         sendSize(window);
 }
 
@@ -42,11 +42,14 @@ void changeMinimized(LuMemoryWindow& window, bool isMinimized) {
         window.style &= ~WS_MINIMIZE;
     }
     const HWND handle = getHandle(&window);
-    const bool isThere = placeWindow(
-        window, {handle, nullptr, static_cast<int>(place.left), static_cast<int>(place.top),
-                 static_cast<int>(place.right - place.left), static_cast<int>(place.bottom - place.top),
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED});
-    if (isThere && !isMinimized && findMemoryWindow(handle))
+    WINDOWPOS position{handle,
+                       nullptr,
+                       static_cast<int>(place.left),
+                       static_cast<int>(place.top),
+                       static_cast<int>(place.right - place.left),
+                       static_cast<int>(place.bottom - place.top),
+                       SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED};
+    if (placeWindow(window, position) && !isMinimized)
         SetFocus(handle);
 }
 
@@ -76,12 +79,12 @@ LRESULT handleCreation(LuMemoryWindow& window, LPARAM lParam) {
 }
 
 /// Apart from the frequent ones, which then need no room on the stack.
-[[gnu::noinline]] LRESULT handleRareMessage(LuMemoryWindow* window, UINT message, WPARAM wParam,
+[[gnu::noinline]] LRESULT handleRareMessage(LuMemoryWindow& window, UINT message, WPARAM wParam,
                                             LPARAM lParam) {
-    const HWND handle = getHandle(window);
+    const HWND handle = getHandle(&window);
     switch (message) {
     case WM_NCCREATE:
-        return handleCreation(*window, lParam);
+        return handleCreation(window, lParam);
     case WM_ACTIVATE:
         if (LOWORD(wParam) != WA_INACTIVE)
             SetFocus(handle);
@@ -93,22 +96,22 @@ LRESULT handleCreation(LuMemoryWindow& window, LPARAM lParam) {
         DestroyWindow(handle);
         return 0;
     case WM_CANCELMODE:
-        if (getMemoryDesktop().capture == window)
+        if (getMemoryDesktop().capture == &window)
             ReleaseCapture();
         return 0;
     case WM_SYSCOMMAND:
-        return handleSysCommand(*window, wParam);
+        return handleSysCommand(window, wParam);
     case WM_NCHITTEST:
-        return hitTest(*window, lParam);
+        return hitTest(window, lParam);
     case WM_PARENTNOTIFY:
     case WM_MOUSEWHEEL:
     case WM_SETCURSOR:
-        if (isChildStyle(window->style) && window->parent)
-            return sendMessage(*window->parent, message, wParam, lParam);
+        if (isChildStyle(window.style) && window.parent)
+            return sendMessage(*window.parent, message, wParam, lParam);
         return 0;
     case WM_MOUSEACTIVATE:
-        if (isChildStyle(window->style) && window->parent)
-            if (const LRESULT answer = sendMessage(*window->parent, message, wParam, lParam))
+        if (isChildStyle(window.style) && window.parent)
+            if (const LRESULT answer = sendMessage(*window.parent, message, wParam, lParam))
                 return answer;
         return MA_ACTIVATE;
     case WM_CTLCOLORSTATIC:
@@ -118,16 +121,13 @@ LRESULT handleCreation(LuMemoryWindow& window, LPARAM lParam) {
     case WM_CTLCOLORLISTBOX:
         return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
     default:
-        return isTextMessage(message & ~wideTextFlag) ? handleText(*window, message, wParam, lParam) : 0;
+        return isTextMessage(message & ~wideTextFlag) ? handleText(window, message, wParam, lParam) : 0;
     }
 }
 
 } // namespace
 
-LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
-    LuMemoryWindow* window = findMemoryWindow(handle);
-    if (!window)
-        return 0;
+LRESULT handleByDefault(LuMemoryWindow& window, UINT message, WPARAM wParam, LPARAM lParam) {
     // A layout sends these by the thousand, so they come first.
     switch (message) {
     case WM_MOVE:
@@ -135,15 +135,20 @@ LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) 
     case WM_CHILDACTIVATE:
         return 0;
     case WM_NCCALCSIZE:
-        subtractFrame(*window, *reinterpret_cast<RECT*>(lParam));
+        subtractFrame(window, *reinterpret_cast<RECT*>(lParam));
         return 0;
     case WM_WINDOWPOSCHANGING:
-        limitToTrackSize(*window, *reinterpret_cast<WINDOWPOS*>(lParam));
+        limitToTrackSize(window, *reinterpret_cast<WINDOWPOS*>(lParam));
         return 0;
     case WM_WINDOWPOSCHANGED:
-        announceChange(*window, *reinterpret_cast<const WINDOWPOS*>(lParam));
+        announceChange(window, *reinterpret_cast<const WINDOWPOS*>(lParam));
         return 0;
     default:
         return handleRareMessage(window, message, wParam, lParam);
     }
+}
+
+LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+    LuMemoryWindow* window = findMemoryWindow(handle);
+    return window ? handleByDefault(*window, message, wParam, lParam) : 0;
 }

@@ -190,12 +190,13 @@ bool showWindow(LuMemoryWindow& window, bool show, UINT flags) {
         return true;
     }
     flags |= SWP_NOSIZE | SWP_NOMOVE | (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW);
-    return placeWindow(window, {handle, nullptr, 0, 0, 0, 0, flags}) && findMemoryWindow(handle);
+    WINDOWPOS position{handle, nullptr, 0, 0, 0, 0, flags};
+    return placeWindow(window, position) && findMemoryWindow(handle);
 }
 
 BOOL ShowWindow(HWND handle, int command) {
     LuMemoryWindow* window = findMemoryWindowOrFail(handle);
-    if (!window || window == getMemoryDesktop().root)
+    if (!window || isDesktopWindow(*window))
         return FALSE;
     const bool wasVisible = (window->style & WS_VISIBLE) != 0;
     const bool show = command != SW_HIDE;

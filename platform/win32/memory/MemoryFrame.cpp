@@ -42,6 +42,11 @@ void subtractFrame(const LuMemoryWindow& window, RECT& rect) {
         rect.bottom = rect.top;
         return;
     }
+    constexpr DWORD frames = WS_BORDER | WS_DLGFRAME | WS_THICKFRAME | WS_HSCROLL | WS_VSCROLL;
+    constexpr DWORD edges = WS_EX_STATICEDGE | WS_EX_DLGMODALFRAME | WS_EX_CLIENTEDGE;
+    const bool isPlain = !(window.style & frames) && !(window.exStyle & edges);
+    if (isPlain && rect.left <= rect.right && rect.top <= rect.bottom)
+        return;
     const int border = getBorder(window.style, window.exStyle) + getClientEdge(window.exStyle);
     rect.left += border;
     rect.right -= border;

@@ -56,16 +56,6 @@ MSG makeQuit(int exitCode) {
 
 } // namespace
 
-LRESULT sendMessage(LuMemoryWindow& window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return window.procedure(getHandle(&window), message, wParam, lParam);
-}
-
-bool sendAndCheck(LuMemoryWindow& window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const HWND handle = getHandle(&window);
-    window.procedure(handle, message, wParam, lParam);
-    return findMemoryWindow(handle) == &window;
-}
-
 LRESULT SendMessageA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
     LuMemoryWindow* window = findMemoryWindowOrFail(handle);
     return window ? window->procedure(handle, message, wParam, lParam) : 0;

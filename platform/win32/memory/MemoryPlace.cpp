@@ -126,7 +126,7 @@ bool tellPlaced(LuMemoryWindow& window, WINDOWPOS& position) {
             sendMessage(window, WM_CHILDACTIVATE, 0, 0);
         else
             activateWindow(&window);
-        if (!findMemoryWindow(handle))
+        if (getHandle(&window) != handle)
             return false;
     }
     if ((position.flags & changeMask) == noChange)
@@ -146,7 +146,7 @@ void sendMove(LuMemoryWindow& window) {
     sendMessage(window, WM_MOVE, 0, packPoint(window.client.left, window.client.top));
 }
 
-bool placeWindow(LuMemoryWindow& window, WINDOWPOS position) {
+bool placeWindow(LuMemoryWindow& window, WINDOWPOS& position) {
     const auto lParam = reinterpret_cast<LPARAM>(&position);
     const bool isSilent = isPlacedSilently(window);
     if (!isSilent && !(position.flags & SWP_NOSENDCHANGING) &&
@@ -181,12 +181,13 @@ bool placeWindow(LuMemoryWindow& window, WINDOWPOS position) {
 
 BOOL SetWindowPos(HWND handle, HWND insertAfter, int x, int y, int width, int height, UINT flags) {
     LuMemoryWindow* window = findMemoryWindowOrFail(handle);
-    if (!window || window == getMemoryDesktop().root)
+    if (!window || isDesktopWindow(*window))
         return FALSE;
     if (!(flags & SWP_NOZORDER) && insertAfter != HWND_TOP && insertAfter != HWND_BOTTOM &&
         insertAfter != HWND_TOPMOST && insertAfter != HWND_NOTOPMOST && !findMemoryWindowOrFail(insertAfter))
         return FALSE;
-    placeWindow(*window, {handle, insertAfter, x, y, width, height, flags});
+    WINDOWPOS position{handle, insertAfter, x, y, width, height, flags};
+    placeWindow(*window, position);
     return TRUE;
 }
 

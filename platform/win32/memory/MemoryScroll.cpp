@@ -36,7 +36,8 @@ void drawScrollBars(LuMemoryWindow& window, DWORD style) {
         return;
     window.style = style;
     const UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED;
-    placeWindow(window, {getHandle(&window), nullptr, 0, 0, 0, 0, flags});
+    WINDOWPOS position{getHandle(&window), nullptr, 0, 0, 0, 0, flags};
+    placeWindow(window, position);
 }
 
 int SetScrollInfo(HWND handle, int which, const SCROLLINFO* info, BOOL) {
@@ -144,7 +145,8 @@ BOOL ScrollWindow(HWND handle, int dx, int dy, const RECT* rect, const RECT*) {
     while (child) {
         const HWND childHandle = getHandle(child);
         const int x = addPixels(child->rect.left, dx), y = addPixels(child->rect.top, dy);
-        placeWindow(*child, {childHandle, nullptr, x, y, 0, 0, flags});
+        WINDOWPOS position{childHandle, nullptr, x, y, 0, 0, flags};
+        placeWindow(*child, position);
         if (!findMemoryWindow(handle))
             return TRUE;
         child = findMemoryWindow(childHandle) ? child->below : nullptr;

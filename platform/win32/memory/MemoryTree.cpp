@@ -124,7 +124,7 @@ HWND SetParent(HWND handle, HWND parentHandle) {
 
 HWND GetAncestor(HWND handle, UINT which) {
     LuMemoryWindow* window = findMemoryWindowOrFail(handle);
-    if (!window || window == getMemoryDesktop().root)
+    if (!window || isDesktopWindow(*window))
         return nullptr;
     if (which == GA_PARENT)
         return getHandle(window->parent);

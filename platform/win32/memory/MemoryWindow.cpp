@@ -62,6 +62,10 @@ void freeMemoryWindow(LuMemoryWindow& window) {
     LuMemoryDesktop& desktop = getMemoryDesktop();
     const auto value = reinterpret_cast<std::uint64_t>(window.handle);
     const auto index = static_cast<std::uint32_t>(value) - LuMemorySlots::firstHandle;
+    if (s_memorySlots.last == &window) {
+        s_memorySlots.last = nullptr;
+        s_memorySlots.lastHandle = nullptr;
+    }
     window = LuMemoryWindow{};
     ++s_memorySlots.generations[index];
     desktop.freeSlots.push_back(index);

@@ -36,12 +36,11 @@ struct LuMemoryEdit {
 };
 
 /// A window. Its rectangles are relative to the client area of its parent, so that moving a parent touches no
-/// child.
-struct LuMemoryWindow {
+/// child. What each placement looks at stands in front, on two lines of the processor's cache.
+struct alignas(64) LuMemoryWindow {
     HWND handle = nullptr; ///< The slot of the window, and how often it has been used.
     DWORD style = 0, exStyle = 0;
     RECT rect{}, client{};
-    RECT normalRect{}; ///< Where it stands when it is no longer minimised.
     WNDPROC procedure = nullptr;
     LONG_PTR userData = 0, id = 0;
     LuMemoryWindow* parent = nullptr;
@@ -59,6 +58,7 @@ struct LuMemoryWindow {
     UINT state = 0;          ///< For the built-in classes: BM_GETSTATE.
     bool needsSize = false;  ///< An overlapped window hears of its size when it is first shown.
     bool isDying = false;    ///< WM_DESTROY has been sent.
+    RECT normalRect{};       ///< Where it stands when it is no longer minimised.
     HGDIOBJ image = nullptr; ///< For the built-in classes: STM_SETIMAGE.
     LuMemoryEdit edit;
 };
@@ -75,6 +75,10 @@ struct LuMemorySlots {
     LuMemoryWindow* chunks[maxChunks] = {};
     std::uint32_t* generations = nullptr; ///< Odd while the window of the slot lives.
     std::uint32_t numSlots = 0;
+
+    /// The window found last, which lives, or none: one message asks for its window several times.
+    HWND lastHandle = nullptr;
+    LuMemoryWindow* last = nullptr;
 };
 
 inline constinit LuMemorySlots s_memorySlots;
@@ -101,13 +105,17 @@ LuMemoryDesktop& getMemoryDesktop();
 
 /// The window of a handle, or null. It stands at the beginning of every function and allocates nothing.
 inline LuMemoryWindow* findMemoryWindow(HWND handle) {
-    const LuMemorySlots& slots = s_memorySlots;
+    LuMemorySlots& slots = s_memorySlots;
+    if (handle == slots.lastHandle)
+        return slots.last;
     const auto value = reinterpret_cast<std::uint64_t>(handle);
     const auto index = static_cast<std::uint32_t>(value) - LuMemorySlots::firstHandle;
     const auto generation = static_cast<std::uint32_t>(value >> 32);
     if (index >= slots.numSlots || slots.generations[index] != generation || !(generation & 1))
         return nullptr;
-    return slots.chunks[index >> LuMemorySlots::chunkBits] + (index & (LuMemorySlots::chunkSize - 1));
+    slots.lastHandle = handle;
+    slots.last = slots.chunks[index >> LuMemorySlots::chunkBits] + (index & (LuMemorySlots::chunkSize - 1));
+    return slots.last;
 }
 
 /// The same, and the last error tells when there is none.
@@ -127,6 +135,9 @@ inline int addPixels(int left, int right) {
     return static_cast<int>(std::clamp<std::int64_t>(sum, INT_MIN, INT_MAX));
 }
 
+/// The desktop window alone has no parent.
+inline bool isDesktopWindow(const LuMemoryWindow& window) { return !window.parent; }
+
 inline bool isChildStyle(DWORD style) { return (style & (WS_CHILD | WS_POPUP)) == WS_CHILD; }
 
 // Slots and z-order (MemoryWindow.cpp).
@@ -144,9 +155,20 @@ LuMemoryWindow* getRootWindow(LuMemoryWindow* window);
 LuMemoryWindowClass* findMemoryClass(LPCSTR name, HINSTANCE instance);
 
 // Messages (MemoryMessages.cpp).
-LRESULT sendMessage(LuMemoryWindow& window, UINT message, WPARAM wParam, LPARAM lParam);
-/// The same, for calls after which the window may be gone: returns whether it still lives.
-bool sendAndCheck(LuMemoryWindow& window, UINT message, WPARAM wParam, LPARAM lParam);
+inline LRESULT sendMessage(LuMemoryWindow& window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return window.procedure(window.handle, message, wParam, lParam);
+}
+
+/// The same, for calls after which the window may be gone: returns whether it still lives. Its memory stays,
+/// and a handle never comes back.
+inline bool sendAndCheck(LuMemoryWindow& window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND handle = window.handle;
+    window.procedure(handle, message, wParam, lParam);
+    return window.handle == handle;
+}
+
+/// What DefWindowProcA does with a message.
+LRESULT handleByDefault(LuMemoryWindow& window, UINT message, WPARAM wParam, LPARAM lParam);
 
 // Frames (MemoryFrame.cpp).
 /// Takes the frame of a window away from a rectangle.
@@ -157,7 +179,8 @@ LRESULT hitTest(const LuMemoryWindow& window, LPARAM lParam);
 DWORD fixExStyle(DWORD style, DWORD exStyle);
 
 // Places (MemoryPlace.cpp).
-bool placeWindow(LuMemoryWindow& window, WINDOWPOS position);
+/// Leaves in `position` what has really changed. False when the window has ended meanwhile.
+bool placeWindow(LuMemoryWindow& window, WINDOWPOS& position);
 /// Asks for the client rectangle with WM_NCCALCSIZE; `position` is null at the creation.
 bool calculateClient(LuMemoryWindow& window, const RECT& rect, WINDOWPOS* position, RECT& client);
 /// WM_SIZE and WM_MOVE from the present client rectangle.

@@ -176,6 +176,14 @@ TEST_F(WindowLife, handleOfADestroyedWindow_isNotUsedAgainForTheNext) {
     EXPECT_FALSE(IsWindow(first));
 }
 
+TEST_F(WindowLife, windowThatWasAskedForLast_isGoneOnceItIsDestroyed) {
+    HWND child = createChild("child", createTop());
+    EXPECT_TRUE(IsWindow(child));
+    DestroyWindow(child);
+    EXPECT_FALSE(IsWindow(child));
+    EXPECT_FALSE(IsWindow(nullptr));
+}
+
 TEST_F(WindowLife, windowData_isKept) {
     HWND top = createTop();
     int object = 0;

@@ -20,6 +20,16 @@ TEST(LvName, differentTexts_differ) {
     EXPECT_NE(LvName("label"), LvName());
 }
 
+TEST(LvName, anotherTextAtTheSamePlace_isAnotherName) {
+    char text[] = "LvNameTest.first";
+    const LvName first(text);
+    text[11] = 'F';
+    EXPECT_STREQ(LvName(text).getString(), "LvNameTest.First");
+    text[11] = 'f';
+    EXPECT_EQ(LvName(text), first);
+    EXPECT_STREQ(LvName(std::string_view(text, 10)).getString(), "LvNameTest");
+}
+
 TEST(LvName, emptyText_isTheEmptyName) {
     EXPECT_TRUE(LvName().isEmpty());
     EXPECT_EQ(LvName(""), LvName());

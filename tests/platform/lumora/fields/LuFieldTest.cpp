@@ -87,6 +87,49 @@ TEST_F(FieldTest, ConnectionIsOneWay) {
     EXPECT_EQ(master->translation.getValue(), LvVec3f());
 }
 
+TEST_F(FieldTest, ValueThatASensorMustNotHearIsToldToAllOthers) {
+    const Held<LuTranslation> node;
+    const Held<LuTranslation> slave;
+    int deafCalls = 0;
+    int calls = 0;
+    int nodeCalls = 0;
+    LuFieldSensor deaf(countCall, &deafCalls);
+    LuFieldSensor other(countCall, &calls);
+    LuNodeSensor above(countCall, &nodeCalls);
+    for (LuFieldSensor* sensor : {&deaf, &other}) {
+        sensor->setPriority(0);
+        sensor->attach(&node->translation);
+    }
+    above.setPriority(0);
+    above.attach(node.get());
+    slave->translation.connectFrom(&node->translation);
+    node->translation.setDefault(true);
+    node->translation.setValueUnheardBy(&deaf, LvVec3f(1, 2, 3));
+    EXPECT_EQ(deafCalls, 0);
+    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(nodeCalls, 1);
+    EXPECT_EQ(slave->translation.getValue(), LvVec3f(1, 2, 3));
+    EXPECT_FALSE(node->translation.isDefault());
+}
+
+TEST_F(FieldTest, ValueThatTheOnlySensorMustNotHearIsToldToTheNode) {
+    const Held<LuTranslation> node;
+    int deafCalls = 0;
+    int nodeCalls = 0;
+    LuFieldSensor deaf(countCall, &deafCalls);
+    LuNodeSensor above(countCall, &nodeCalls);
+    deaf.setPriority(0);
+    deaf.attach(&node->translation);
+    above.setPriority(0);
+    above.attach(node.get());
+    node->translation.setValueUnheardBy(&deaf, LvVec3f(1, 2, 3));
+    EXPECT_EQ(deafCalls, 0);
+    EXPECT_EQ(nodeCalls, 1);
+    node->translation.setValueUnheardBy(nullptr, LvVec3f(4, 5, 6));
+    EXPECT_EQ(deafCalls, 1);
+    EXPECT_EQ(nodeCalls, 2);
+}
+
 TEST_F(FieldTest, DisconnectedFieldKeepsItsValue) {
     const Held<LuTranslation> master;
     const Held<LuTranslation> slave;
