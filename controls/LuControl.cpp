@@ -139,10 +139,10 @@ LuTranslation* LuControl::createCheckMark3D(const char* part) {
 
 LuGroup* LuControl::getGroupPart(const char* part) { return static_cast<LuGroup*>(getPart(part, true)); }
 
-void LuControl::insertBeforePart(LuNode* node, const char* part) {
-    LuGroup* const geometry = getGroupPart("geomSwitch");
+void LuControl::insertBeforePart(LuNode* node, const char* part, const char* parent) {
+    LuGroup* const group = getGroupPart(parent);
     LuNode* const next = getPart(part, true);
-    geometry->insertChild(node, geometry->findChild(next));
+    group->insertChild(node, group->findChild(next));
 }
 
 LvVec3f LuControl::getTextPlace(float x, const LvBox3f& box) {

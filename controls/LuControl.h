@@ -76,8 +76,8 @@ protected:
     /// The node of a part as a group; it is made when it isn't there.
     LuGroup* getGroupPart(const char* part);
 
-    /// Puts a node in front of a part among the children of `geomSwitch`.
-    void insertBeforePart(LuNode* node, const char* part);
+    /// Puts a node in front of a part among the children of the part above that.
+    void insertBeforePart(LuNode* node, const char* part, const char* parent = "geomSwitch");
 
     /// Moves a text by half its height down, so that it stands in the middle of y 0. `x` is its left end.
     static LvVec3f getTextPlace(float x, const LvBox3f& box);

@@ -188,7 +188,6 @@ private:
 
     void loadSkins3D();
     void create3DDialogSlider();
-    void createCheck3D();
     void createFrame3D();
     void createValueBox3D();
     void update3DSlider();

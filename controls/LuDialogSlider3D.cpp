@@ -20,15 +20,9 @@ LuSkin LuDialogSlider::s_skin("DialogSlider.lum", LuEmbeddedSkin_DialogSlider,
 namespace {
 
 // Scene units.
-constexpr float CHECK_SIZE = 14;
 constexpr int CHECK_ROOM = 20; ///< What the check mark takes from the frame, in the middle of it.
 constexpr float FRAME_HEIGHT = 20;
 constexpr float TEXT_INSET = 3; ///< From the left end of the value box to the number.
-
-/// Puts a node in front of a part among the children of the part above it.
-void insertBefore(LuGroup* parent, LuNode* node, LuNode* next) {
-    parent->insertChild(node, parent->findChild(next));
-}
 
 LvVec3f atX(double x) { return {static_cast<float>(x), 0, 0}; }
 
@@ -60,7 +54,8 @@ void LuDialogSlider::create3DDialogSlider() {
     createLabel3D();
     showLabel3D();
     change3DLabel();
-    createCheck3D();
+    m_checkTranslation = createCheckMark3D("checkSep");
+    showCheck3D();
     createFrame3D();
     createValueBox3D();
     setSwitchValue(edtSwtch.getValue(), valueVisible.getValue() ? LuSwitch::SHOW_ALL : LuSwitch::SHOW_NONE);
@@ -74,24 +69,13 @@ void LuDialogSlider::create3DDialogSlider() {
     m_valueTextBBox = getUnsetBox();
 }
 
-void LuDialogSlider::createCheck3D() {
-    auto* const scale = new LuScale;
-    scale->scaleFactor = LvVec3f(CHECK_SIZE, CHECK_SIZE, 1);
-    m_checkTranslation = new LuTranslation;
-    LuGroup* const group = getGroupPart("checkSep");
-    group->insertChild(scale, 0);
-    group->insertChild(m_checkTranslation, 0);
-    showCheck3D();
-}
-
 void LuDialogSlider::createFrame3D() {
     m_sliderTranslation = new LuTranslation;
-    LuGroup* const group = getGroupPart("sliderSep");
-    group->insertChild(m_sliderTranslation, 0);
+    getGroupPart("sliderSep")->insertChild(m_sliderTranslation, 0);
     m_frameScale = new LuScale;
     getGroupPart("frameSep")->insertChild(m_frameScale, 0);
     m_frameTransform = new LuTransform;
-    insertBefore(group, m_frameTransform, cursorSep.getValue());
+    insertBeforePart(m_frameTransform, "cursorSep", "sliderSep");
 
     auto* const scale = new LuScale;
     scale->scaleFactor = LvVec3f(CURSOR_SIZE_3D, CURSOR_SIZE_3D, 1);
@@ -110,14 +94,9 @@ void LuDialogSlider::createValueBox3D() {
     m_valueFrameScale = new LuScale;
     getGroupPart("edtFrmSep")->insertChild(m_valueFrameScale, 0);
     m_valueFrameTransform = new LuTransform;
-    insertBefore(group, m_valueFrameTransform, editTextSep.getValue());
+    insertBeforePart(m_valueFrameTransform, "editTextSep", "edtSwtch");
 
-    m_valueTextTranslation = new LuTranslation;
-    m_valueText3 = new LuText3;
-    m_valueText3->parts = LuText3::FRONT;
-    LuGroup* const textGroup = getGroupPart("editTextSep");
-    textGroup->insertChild(m_valueTextTranslation, 0);
-    textGroup->addChild(m_valueText3);
+    createText3D("editTextSep", m_valueTextTranslation, m_valueText3);
     change3DEditValue();
 
     // Below the switch: keys reach the slider only while the value box shows.
