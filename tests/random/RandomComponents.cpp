@@ -70,7 +70,8 @@ private:
         }
     }
     void takeOutOrPutBack(RandomComponent& child) {
-        if (!isInDialog())
+        // More is in the dialog than out of it.
+        if (!isInDialog() || (!child.isTakenOut() && m_panel.getRandom().mostly()))
             return;
         if (child.isTakenOut()) {
             child.setTakenOut(false);

@@ -55,6 +55,9 @@ public:
     /// Sends a key to the window with the focus, if that is one of the dialog.
     void sendKey(UINT message, WPARAM key);
 
+    /// Moves the pointer of the scene a bit.
+    void moveInScene();
+
     /// Presses and releases a key where the pointer of the scene is.
     void keyInScene(LuKeyboardEvent::Key key);
     const LvVec3f& getPointer() const { return m_place; }
@@ -78,7 +81,6 @@ private:
     // The pointer in the scene
     LuPath pick(const LvVec3f& place);
     void pressAt(const LvVec3f& place);
-    void moveInScene();
     void loseGrabber();
     void releaseInScene();
     void dialogPressed(const LuPath& path);

@@ -634,10 +634,16 @@ void RandomSlider<Slider>::addUserActions(std::vector<RandomAction>& actions) {
         actions.push_back({std::string(name) + " " + this->getName(), weight, std::move(run)});
     };
     const std::pair<const char*, int> parts[] = {
-        {"frameSep", 4}, {"cursorSep", 6}, {"checkSep", 3}, {"edtSwtch", 3}, {"labelSep", 1}};
+        {"frameSep", 4}, {"cursorSep", 3}, {"checkSep", 3}, {"edtSwtch", 3}, {"labelSep", 1}};
     for (const auto& [part, weight] : parts)
         add((std::string("press ") + part + " of").c_str(), weight,
             [this, part = part] { m_panel.pressInScene(m_slider.getPart(part, false)); });
+    add("drag the cursor of", 8, [this] {
+        if (m_hold != Hold::CURSOR)
+            m_panel.pressInScene(m_slider.getPart("cursorSep", false));
+        for (int i = m_panel.getRandom().below(4); i > 0 && m_hold == Hold::CURSOR; --i)
+            m_panel.moveInScene();
+    });
     add("press the thumb or the bar of", 8, [this] { m_panel.pressWindow(m_slider.getSliderWidget()); });
     add("press the toggle of", 4, [this] { m_panel.pressWindow(m_slider.getToggleWidget()); });
     add("press the box of", 5, [this] { m_panel.pressWindow(m_slider.getEditWidget()); });
@@ -647,19 +653,21 @@ void RandomSlider<Slider>::addUserActions(std::vector<RandomAction>& actions) {
                                      Key::RETURN,    Key::NUMBER_0,   Key::NUMBER_1,   Key::NUMBER_4,
                                      Key::NUMBER_9,  Key::PAD_INSERT, Key::PAD_DELETE, Key::PERIOD,
                                      Key::MINUS,     Key::A};
-        if (m_isEditing)
-            m_panel.keyInScene(m_panel.getRandom().from(KEYS));
-        else
+        if (!m_isEditing)
             m_panel.pressInScene(m_slider.getPart("edtSwtch", false));
+        for (int i = m_panel.getRandom().below(4); i > 0 && m_isEditing; --i)
+            m_panel.keyInScene(m_panel.getRandom().from(KEYS));
     });
     add("type into", 15, [this] {
         constexpr WPARAM KEYS[] = {'0', '1', '4',     '9',     '-',       '.',
                                    'e', 'x', VK_BACK, VK_BACK, VK_RETURN, VK_RETURN};
-        const bool isFocused = m_slider.getEditWidget() && GetFocus() == m_slider.getEditWidget();
-        if (isFocused)
-            m_panel.sendKey(WM_CHAR, m_panel.getRandom().from(KEYS));
-        else
+        const auto isFocused = [this] {
+            return m_slider.getEditWidget() && GetFocus() == m_slider.getEditWidget();
+        };
+        if (!isFocused())
             m_panel.pressWindow(m_slider.getEditWidget());
+        for (int i = m_panel.getRandom().below(4); i > 0 && isFocused(); --i)
+            m_panel.sendKey(WM_CHAR, m_panel.getRandom().from(KEYS));
     });
     add("move the caret or the thumb of", 8, [this] {
         constexpr WPARAM KEYS[] = {VK_LEFT, VK_RIGHT, VK_HOME, VK_END, VK_DELETE};

@@ -27,8 +27,8 @@ bool isReached(HWND window) {
 } // namespace
 
 void RandomPanel::addUserActions() {
-    addAction("move in the scene", 8, [this] { moveInScene(); });
-    addAction("release in the scene", 30, [this] { releaseInScene(); });
+    addAction("move in the scene", 25, [this] { moveInScene(); });
+    addAction("release in the scene", 120, [this] { releaseInScene(); });
     addAction("press the frame of the panel", 6, [this] {
         const LvVec3f corner = getCorner();
         pressAt({corner.x + 8, -corner.y - 10, corner.z});
@@ -48,8 +48,8 @@ void RandomPanel::addUserActions() {
                                                  LuKeyboardEvent::RETURN, LuKeyboardEvent::A};
         keyInScene(m_random.from(KEYS));
     });
-    addAction("move on the window", 5, [this] { moveOnWindow(); });
-    addAction("release the window", 25, [this] { releaseWindow(); });
+    addAction("move on the window", 15, [this] { moveOnWindow(); });
+    addAction("release the window", 80, [this] { releaseWindow(); });
     addAction("key down", 5, [this] {
         constexpr WPARAM KEYS[] = {VK_SPACE, VK_SPACE, VK_TAB, VK_SHIFT, VK_RETURN, 'A'};
         sendKey(WM_KEYDOWN, m_random.from(KEYS));
