@@ -274,7 +274,8 @@ void RandomSlider<Slider>::sceneBuilt() {
 template <class Slider>
 void RandomSlider<Slider>::enableChanged() {
     RandomComponent::enableChanged();
-    moveCursor();
+    // After what the windows do, which may end a drag there.
+    m_isCursorMovedLast = true;
 }
 
 template <class Slider>
@@ -539,11 +540,13 @@ void RandomSlider<Slider>::checkScene() {
         return static_cast<LuSwitch*>(m_slider.getPart(part, false))->whichChild.getValue();
     };
     const float length = getFrameLength();
+    if (m_isCursorMovedLast)
+        moveCursor();
     if (m_isCursorMoved) {
         const float way = ((m_isLengthOld ? m_length : length) - CURSOR_SIZE) * m_cursorPosition;
         m_cursor = std::isfinite(way) ? way : 0;
     }
-    m_isCursorMoved = m_isLengthOld = false;
+    m_isCursorMoved = m_isCursorMovedLast = m_isLengthOld = false;
     m_length = length;
     const LvVec3f place = static_cast<LuTranslation*>(getChild("cursorSep"))->translation.getValue();
     EXPECT_EQ(place, LvVec3f(m_cursor, 0, 0)) << this->getName();

@@ -111,9 +111,10 @@ private:
     int m_checkSwitch = 0;
     float m_cursor = 0; ///< The way of the cursor from position 0.
     float m_cursorPosition = 0;
-    bool m_isCursorMoved = false; ///< By the action that is under way.
-    float m_length = 0;           ///< Of the frame, after the action before.
-    bool m_isLengthOld = false;   ///< A move of the cursor has come before the change of the length.
+    bool m_isCursorMoved = false;     ///< By the action that is under way.
+    float m_length = 0;               ///< Of the frame, after the action before.
+    bool m_isLengthOld = false;       ///< A move of the cursor has come before the change of the length.
+    bool m_isCursorMovedLast = false; ///< It is moved at the end of the action.
     bool m_isEditing = false;
     Hold m_hold = Hold::NOTHING;
     LvVec3f m_pressPlace;
