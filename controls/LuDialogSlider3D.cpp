@@ -167,7 +167,8 @@ void LuDialogSlider::change3DEnable() {
 void LuDialogSlider::change3DLabel() {
     if (m_labelText3)
         m_labelText3->string.setValue(convertToCString(label.getValue(), this));
-    LuLabelledControl::change3DLabel();
+    // Not that of the labelled controls, which shows the text as it is.
+    LuControl::change3DLabel();
 }
 
 void LuDialogSlider::change3DLabelAlignment() { update3DLabel(); }

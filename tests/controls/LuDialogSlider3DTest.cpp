@@ -196,6 +196,13 @@ TEST_F(LuDialogSlider3DLayoutTest, label_movesTheRest) {
     EXPECT_EQ(getSwitch(*m_slider, "labelSwitch"), -1);
 }
 
+TEST_F(LuDialogSlider3DLayoutTest, labelWithAnEscape_isShownConverted) {
+    build3D(*m_slider);
+    m_slider->label = "one\\ttwo";
+    EXPECT_EQ(getLines(*getChildAs<LuText3>(*m_slider, "labelSwitch", -1)),
+              std::vector<std::string>{"one\ttwo"});
+}
+
 TEST_F(LuDialogSlider3DLayoutTest, labelAlignment_placesTheLabelInItsColumn) {
     m_slider->label = "IIIII";
     m_slider->labelVisibility = true;

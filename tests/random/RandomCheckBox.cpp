@@ -74,11 +74,11 @@ void RandomCheckBox::sceneReleased() {
     turn();
 }
 
-void RandomCheckBox::windowMessage(UINT message, WPARAM wParam, bool isInside) {
+void RandomCheckBox::windowMessage(const RandomMessage& sent) {
     const LRESULT state = SendMessageA(getOperatedWindow(), BM_GETSTATE, 0, 0);
     const bool isHeld = GetCapture() == getOperatedWindow() && (state & BST_PUSHED);
-    const bool isKey = message == WM_KEYUP && wParam == VK_SPACE;
-    if (isHeld && (isKey || (message == WM_LBUTTONUP && isInside)))
+    const bool isKey = sent.message == WM_KEYUP && sent.wParam == VK_SPACE;
+    if (isHeld && (isKey || (sent.message == WM_LBUTTONUP && sent.isInside)))
         turn();
 }
 

@@ -21,7 +21,7 @@ public:
     void sceneGrabLost() override { m_isOperated = false; }
 
     HWND getOperatedWindow() const override { return m_box.getCheckBoxWidget(); }
-    void windowMessage(UINT message, WPARAM wParam, bool isInside) override;
+    void windowMessage(const RandomMessage& message) override;
     void check() override;
 
 protected:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "layout/LuDialogComponent.h"
+#include "platform/lumora/events/LuKeyboardEvent.h"
 
 #include <functional>
 #include <memory>
@@ -16,6 +17,15 @@ struct RandomAction {
     std::string name;
     int weight;
     std::function<void()> run;
+};
+
+/// A message of the mouse or the keyboard to a window.
+struct RandomMessage {
+    HWND window;
+    UINT message;
+    WPARAM wParam;
+    int x;         ///< Where the mouse is, from the left edge of the window.
+    bool isInside; ///< The mouse is on the window.
 };
 
 /// What is expected of one component: the state that its two renditions should show after all that has been
@@ -50,21 +60,36 @@ public:
     /// show3D has been called for it or for a container.
     virtual void shownInScene(bool isShown) { m_isShownInScene = isShown; }
 
+    /// A build of the dialog has come by, once it is built itself.
+    virtual void laidOut() {}
+
     /// Whether it takes a press in the scene that hits something below it. Then it is told of the press, with
-    /// the way from the root to what was hit, and of the release.
+    /// the way from the root to what was hit, of each move, after them, and of the release before it.
     virtual bool takesScenePress() const { return false; }
     virtual void scenePressed(const LuPath&) {}
+    virtual void sceneMoved() {}
     virtual void sceneReleased() {}
 
     /// The release will not come: by then it was no longer in the scene.
     virtual void sceneGrabLost() {}
 
+    /// A key has been pressed, which no drag has taken.
+    virtual void sceneKey(LuKeyboardEvent::Key) {}
+
+    /// Another component takes keys and drags in the scene, or none does.
+    virtual void madeInactive() {}
+
     /// The window that the mouse and the keys operate; null for none.
     virtual HWND getOperatedWindow() const { return nullptr; }
+    virtual bool isOperated(HWND window) const { return window && window == getOperatedWindow(); }
 
-    /// A message of the mouse or the keyboard is about to be sent to that window; `isInside` tells whether
-    /// the mouse is on it.
-    virtual void windowMessage(UINT, WPARAM, bool) {}
+    /// A message is about to be sent to such a window, and has been.
+    virtual void windowMessage(const RandomMessage&) {}
+    virtual void windowMessageDone(const RandomMessage&) {}
+
+    /// A window, which may be gone, has the focus or the mouse no more.
+    virtual void focusLeft(HWND) {}
+    virtual void captureLeft(HWND) {}
 
     /// Compares what shows with what is expected.
     virtual void check();

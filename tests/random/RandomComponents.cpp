@@ -8,6 +8,7 @@
 #include "platform/lumora/win/LuWin.h"
 #include "tests/random/RandomCheckBox.h"
 #include "tests/random/RandomPanel.h"
+#include "tests/random/RandomSlider.h"
 #include "tests/random/RandomTexts.h"
 
 #include <gtest/gtest.h>
@@ -69,7 +70,8 @@ private:
         }
     }
     void takeOutOrPutBack(RandomComponent& child) {
-        if (!isInDialog())
+        // More is in the dialog than out of it.
+        if (!isInDialog() || (!child.isTakenOut() && m_panel.getRandom().mostly()))
             return;
         if (child.isTakenOut()) {
             child.setTakenOut(false);
@@ -214,13 +216,13 @@ public:
     void sceneGrabLost() override { m_isOperated = false; }
 
     HWND getOperatedWindow() const override { return m_button.getButtonWidget(); }
-    void windowMessage(UINT message, WPARAM wParam, bool isInside) override {
+    void windowMessage(const RandomMessage& sent) override {
         const LRESULT state = SendMessageA(getOperatedWindow(), BM_GETSTATE, 0, 0);
         const bool isHeld = GetCapture() == getOperatedWindow() && (state & BST_PUSHED);
-        if (message == WM_LBUTTONDOWN && (state & ~LRESULT{BST_FOCUS}) == 0)
+        if (sent.message == WM_LBUTTONDOWN && (state & ~LRESULT{BST_FOCUS}) == 0)
             m_isPressedInScene = m_isSceneBuilt;
-        const bool isKey = message == WM_KEYUP && wParam == VK_SPACE;
-        if (isHeld && (isKey || (message == WM_LBUTTONUP && isInside))) {
+        const bool isKey = sent.message == WM_KEYUP && sent.wParam == VK_SPACE;
+        if (isHeld && (isKey || (sent.message == WM_LBUTTONUP && sent.isInside))) {
             m_isPressedInScene = false;
             m_native = Native::RELEASED;
             expectCall();
@@ -294,6 +296,8 @@ std::unique_ptr<RandomComponent> makeRandomComponent(RandomPanel& panel, LuDialo
         {LuColumnDialog::getClassTypeId(), make<RandomGroup, LuDialogGroup>},
         {LuRowDialog::getClassTypeId(), make<RandomGroup, LuDialogGroup>},
         {LuDialogCheckBox::getClassTypeId(), make<RandomCheckBox, LuDialogCheckBox>},
+        {LuDialogIntegerSlider::getClassTypeId(), make<RandomIntegerSlider, LuDialogIntegerSlider>},
+        {LuDialogRealSlider::getClassTypeId(), make<RandomRealSlider, LuDialogRealSlider>},
         {LuDialogLabel::getClassTypeId(), make<RandomLabel, LuDialogLabel>},
         {LuDialogPushButton::getClassTypeId(), make<RandomPushButton, LuDialogPushButton>},
         {LuDialogSeparator::getClassTypeId(), make<RandomSeparator, LuDialogSeparator>},

@@ -2,11 +2,14 @@
 #include "tests/random/RandomPanel.h"
 
 #include "controls/LuDialogCheckBox.h"
+#include "controls/LuDialogIntegerSlider.h"
 #include "controls/LuDialogPushButton.h"
+#include "controls/LuDialogRealSlider.h"
 #include "platform/lumora/io/LuDB.h"
 #include "platform/lumora/nodes/LuText3.h"
 #include "platform/lumora/win/LuWin.h"
 #include "tests/host/TestHost.h"
+#include "tests/random/RandomTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -28,6 +31,14 @@ public:
     void dialogCheckBox(LuDialogCheckBox* checkBox) override {
         m_calls.push_back("dialogCheckBox " + checkBox->auditorID.getValue().str() + " " +
                           checkBox->state.getText().str());
+    }
+    void dialogIntegerSlider(LuDialogIntegerSlider* slider) override {
+        m_calls.push_back("dialogIntegerSlider " + slider->auditorID.getValue().str() + " " +
+                          printRandomNumber(slider->value.getValue()));
+    }
+    void dialogRealSlider(LuDialogRealSlider* slider) override {
+        m_calls.push_back("dialogRealSlider " + slider->auditorID.getValue().str() + " " +
+                          printRandomNumber(static_cast<double>(slider->value.getValue())));
     }
 
 private:
@@ -97,6 +108,8 @@ bool RandomPanel::run(int count) {
         // What the desktop has done meanwhile.
         LuWin::processMessages();
         action.run();
+        followFocus();
+        followCapture();
         check();
         if (testing::Test::HasFailure())
             fail(i, count);
@@ -150,7 +163,18 @@ void RandomPanel::showChildren(bool isShown) {
         child->shownInScene(isShown);
 }
 
+void RandomPanel::setActive(LuPanelix* component) {
+    RandomComponent* const before = m_active == component ? nullptr : find(m_active);
+    m_active = component;
+    if (before)
+        before->madeInactive();
+}
+
 void RandomPanel::rebuilt() {
+    for (const auto& component : m_components) {
+        if (component->isInDialog())
+            component->laidOut();
+    }
     if (m_hasScene && m_isMinimized)
         showChildren(false);
 }

@@ -43,14 +43,27 @@ public:
     void rebuilt();
 
     /// The component that takes keys and drags in the scene.
-    void setActive(LuPanelix* component) { m_active = component; }
+    void setActive(LuPanelix* component);
     const LuPanelix* getActive() const { return m_active; }
 
     /// Presses the middle of what is below a node; nothing when that doesn't show.
     void pressInScene(LuNode* node);
 
-    /// Presses the middle of a window, if the user can get at it.
+    /// Presses a window somewhere, if the user can get at it.
     void pressWindow(HWND window);
+
+    /// Sends a key to the window with the focus, if that is one of the dialog.
+    void sendKey(UINT message, WPARAM key);
+
+    /// Moves the pointer of the scene a bit.
+    void moveInScene();
+
+    /// Presses and releases a key where the pointer of the scene is.
+    void keyInScene(LuKeyboardEvent::Key key);
+    const LvVec3f& getPointer() const { return m_place; }
+
+    /// The box that something below a node takes in the scene; empty when it doesn't show.
+    LvBox3f getSceneBox(LuNode* node);
 
 private:
     class Recorder;
@@ -68,7 +81,6 @@ private:
     // The pointer in the scene
     LuPath pick(const LvVec3f& place);
     void pressAt(const LvVec3f& place);
-    void moveInScene();
     void loseGrabber();
     void releaseInScene();
     void dialogPressed(const LuPath& path);
@@ -80,7 +92,8 @@ private:
     void sendMouse(HWND window, UINT message, WPARAM buttons, bool isInside);
     void moveOnWindow();
     void releaseWindow();
-    void sendKey(UINT message, WPARAM key);
+    void followFocus();
+    void followCapture();
 
     void showChildren(bool isShown);
     LvVec3f getCorner() const;
@@ -113,4 +126,6 @@ private:
     bool m_isEnabledInWindows = true; ///< Only a change of the field counts, not what it is at the build.
     std::string m_title3D;
     bool m_isMouseInside = false; ///< On the window that has captured it.
+    HWND m_focus = nullptr;
+    HWND m_capture = nullptr;
 };

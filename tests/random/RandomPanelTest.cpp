@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/random/RandomPanel.h"
+#include "controls/LuDialogIntegerSlider.h"
+#include "controls/LuDialogRealSlider.h"
 #include "tests/layout/DialogTest.h"
 
 #include <cstdlib>
@@ -17,6 +19,8 @@ TopLevelDialog {
     DialogPushButton { auditorID "alone" label "Alone" buttonLabel "Alone" }
     DialogSeparator { auditorID "line" }
     DialogCheckBox { auditorID "check" label "Check" onString "Checked" offString "Not" state TRUE }
+    DialogIntegerSlider { auditorID "steps" label "Steps" max 10 value 3 }
+    DialogRealSlider { auditorID "share" label "Share" value 0.5 fixedLimits TRUE }
     RowDialog {
         auditorID "row"
         DialogPushButton { auditorID "first" label "One" buttonLabel "First" }
@@ -26,6 +30,8 @@ TopLevelDialog {
             DialogPushButton { auditorID "inner" label "Three" buttonLabel "Inner" enable FALSE }
             DialogLabel { auditorID "note" label "Note" labelAlignment LEFT }
             DialogCheckBox { auditorID "deep" labelVisibility FALSE onString "Deep" }
+            DialogRealSlider { auditorID "live" label "Live" max 40 continuousTrigger TRUE }
+            DialogIntegerSlider { auditorID "bare" labelVisibility FALSE toggleVisible FALSE max 4 }
         }
     }
 }
@@ -40,7 +46,16 @@ int getSetting(const char* name, int value) {
 enum class Order { WINDOWS_ONLY, SCENE_ONLY, WINDOWS_FIRST, SCENE_FIRST };
 const char* const NAMES[] = {"windowsOnly", "sceneOnly", "windowsFirst", "sceneFirst"};
 
-class RandomPanelTest : public DialogTest, public testing::WithParamInterface<Order> {};
+/// No slider of the panel is the first of its class: that treats its limits in another way.
+class RandomPanelTest : public DialogTest, public testing::WithParamInterface<Order> {
+protected:
+    RandomPanelTest() {
+        const Held<LuDialogIntegerSlider> integer;
+        const Held<LuDialogRealSlider> real;
+        traverse(integer.get());
+        traverse(real.get());
+    }
+};
 
 TEST_P(RandomPanelTest, anythingDoneToAPanel_showsInBothRenditionsAndIsHeardOnce) {
     const int count = getSetting("PANELIX_RANDOM_ACTIONS", PANELIX_RANDOM_ACTIONS);

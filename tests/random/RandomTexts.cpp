@@ -5,6 +5,8 @@
 #include "platform/lumora/nodes/LuText3.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdio>
 
 std::string convertRandomText(const LvString& text) {
     return LuPanelix::convertToCString(text, nullptr).str();
@@ -19,6 +21,13 @@ Lines splitLines(const std::string& text) {
             lines.back() += character;
     }
     return lines;
+}
+
+std::string printRandomNumber(double number) {
+    char text[32] = "none";
+    if (!std::isnan(number))
+        std::snprintf(text, sizeof text, "%.10g", number);
+    return text;
 }
 
 Lines getShownLines(LuDialogComponent& component, const char* part) {

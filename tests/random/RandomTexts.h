@@ -15,6 +15,9 @@ std::string convertRandomText(const LvString& text);
 
 Lines splitLines(const std::string& text);
 
+/// A number in the account of a call.
+std::string printRandomNumber(double number);
+
 /// The lines of the text that comes last in a part.
 Lines getShownLines(LuDialogComponent& component, const char* part);
 

@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 LvViewportRegion getRegion() { return {SceneHost::VIEWPORT, SceneHost::VIEWPORT}; }
@@ -24,8 +27,8 @@ bool isReached(HWND window) {
 } // namespace
 
 void RandomPanel::addUserActions() {
-    addAction("move in the scene", 8, [this] { moveInScene(); });
-    addAction("release in the scene", 30, [this] { releaseInScene(); });
+    addAction("move in the scene", 25, [this] { moveInScene(); });
+    addAction("release in the scene", 120, [this] { releaseInScene(); });
     addAction("press the frame of the panel", 6, [this] {
         const LvVec3f corner = getCorner();
         pressAt({corner.x + 8, -corner.y - 10, corner.z});
@@ -43,11 +46,10 @@ void RandomPanel::addUserActions() {
     addAction("key in the scene", 3, [this] {
         constexpr LuKeyboardEvent::Key KEYS[] = {LuKeyboardEvent::TAB, LuKeyboardEvent::SPACE,
                                                  LuKeyboardEvent::RETURN, LuKeyboardEvent::A};
-        loseGrabber();
-        m_scene.key(m_random.from(KEYS));
+        keyInScene(m_random.from(KEYS));
     });
-    addAction("move on the window", 5, [this] { moveOnWindow(); });
-    addAction("release the window", 25, [this] { releaseWindow(); });
+    addAction("move on the window", 15, [this] { moveOnWindow(); });
+    addAction("release the window", 80, [this] { releaseWindow(); });
     addAction("key down", 5, [this] {
         constexpr WPARAM KEYS[] = {VK_SPACE, VK_SPACE, VK_TAB, VK_SHIFT, VK_RETURN, 'A'};
         sendKey(WM_KEYDOWN, m_random.from(KEYS));
@@ -67,15 +69,28 @@ LuPath RandomPanel::pick(const LvVec3f& place) {
     return path;
 }
 
-void RandomPanel::pressInScene(LuNode* node) {
+LvBox3f RandomPanel::getSceneBox(LuNode* node) {
     const LuPath path = m_hasScene && node ? LuPath::find(&m_scene.getRoot(), node) : LuPath();
-    if (path.getLength() == 0)
-        return;
     LuGetBoundingBoxAction action(getRegion());
-    action.apply(path);
-    const LvBox3f& box = action.getBoundingBox();
+    if (path.getLength() > 0)
+        action.apply(path);
+    return action.getBoundingBox();
+}
+
+void RandomPanel::pressInScene(LuNode* node) {
+    const LvBox3f box = getSceneBox(node);
     if (!box.isEmpty())
         pressAt((box.min + box.max) * 0.5F);
+}
+
+void RandomPanel::keyInScene(LuKeyboardEvent::Key key) {
+    loseGrabber();
+    const bool isTaken = m_grabber || m_drag != Drag::NONE;
+    m_scene.key(key);
+    for (const auto& component : m_components) {
+        if (m_hasScene && !isTaken && component->isInDialog())
+            component->sceneKey(key);
+    }
 }
 
 void RandomPanel::loseGrabber() {
@@ -88,8 +103,10 @@ void RandomPanel::loseGrabber() {
 void RandomPanel::pressAt(const LvVec3f& place) {
     m_place = place;
     loseGrabber();
-    if (!m_grabber && m_drag == Drag::NONE) {
-        const LuPath path = pick(place);
+    LuPath path;
+    const bool isNew = !m_grabber && m_drag == Drag::NONE;
+    if (isNew) {
+        path = pick(place);
         const RandomComponent* innermost = nullptr;
         for (int i = path.getLength() - 1; i >= 0; --i) {
             RandomComponent* const component = find(path.getNode(i));
@@ -99,7 +116,6 @@ void RandomPanel::pressAt(const LvVec3f& place) {
             }
             if (component && component->takesScenePress()) {
                 m_grabber = component;
-                m_grabber->scenePressed(path);
                 break;
             }
         }
@@ -107,10 +123,12 @@ void RandomPanel::pressAt(const LvVec3f& place) {
             dialogPressed(path);
     }
     EXPECT_EQ(m_scene.press(place), m_grabber || m_drag != Drag::NONE);
+    if (isNew && m_grabber)
+        m_grabber->scenePressed(path);
 }
 
 void RandomPanel::dialogPressed(const LuPath& path) {
-    m_active = &m_dialog;
+    setActive(&m_dialog);
     if (path.containsNode(m_dialog.getPart("minSep", false))) {
         m_drag = Drag::BUTTON;
     } else if (path.containsNode(m_dialog.getPart("frameSep", false))) {
@@ -130,6 +148,8 @@ void RandomPanel::moveInScene() {
     m_place += LvVec3f(static_cast<float>(m_random.between(-30, 30)),
                        static_cast<float>(m_random.between(-30, 30)), 0);
     m_scene.moveTo(m_place);
+    if (m_grabber)
+        m_grabber->sceneMoved();
     LvVec3f expected = before;
     if (m_drag == Drag::FRAME) {
         const LvVec2i32 way = m_scene.getPixel(m_place) - m_dragPixel;
@@ -162,19 +182,45 @@ void RandomPanel::dialogReleased() {
 }
 
 void RandomPanel::sendToWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool isInside) {
+    const RandomMessage sent{window, message, wParam,
+                             static_cast<SHORT>(LOWORD(static_cast<DWORD_PTR>(lParam))), isInside};
+    RandomComponent* operated = nullptr;
     for (const auto& component : m_components) {
-        if (component->getOperatedWindow() == window)
-            component->windowMessage(message, wParam, isInside);
+        if (component->isOperated(window))
+            operated = component.get();
     }
+    if (operated)
+        operated->windowMessage(sent);
     // Sent and not posted, so that nothing of the desktop's own comes between the expectation and the
     // message.
     SendMessageA(window, message, wParam, lParam);
+    // A press takes the focus from another window first, and a release ends with the capture.
+    followFocus();
+    if (operated)
+        operated->windowMessageDone(sent);
+    followCapture();
+}
+
+void RandomPanel::followFocus() {
+    const HWND before = std::exchange(m_focus, GetFocus());
+    if (!before || before == m_focus)
+        return;
+    for (const auto& component : m_components)
+        component->focusLeft(before);
+}
+
+void RandomPanel::followCapture() {
+    const HWND before = std::exchange(m_capture, GetCapture());
+    if (!before || before == m_capture)
+        return;
+    for (const auto& component : m_components)
+        component->captureLeft(before);
 }
 
 void RandomPanel::sendMouse(HWND window, UINT message, WPARAM buttons, bool isInside) {
     RECT room{};
     GetClientRect(window, &room);
-    const int x = isInside ? static_cast<int>(room.right) / 2 : -5;
+    const int x = isInside ? m_random.below(std::max(static_cast<int>(room.right), 1)) : -5;
     const int y = isInside ? static_cast<int>(room.bottom) / 2 : -5;
     sendToWindow(window, message, buttons, MAKELPARAM(x, y), isInside && room.right > 0 && room.bottom > 0);
 }
