@@ -89,7 +89,7 @@ void Model::placePlates() {
         transform->translation.setValue({0, HEIGHT * ((static_cast<float>(i) + 0.5F) / count - 0.5F), 0});
         transform->rotation.setValue(LvRotation({0, 1, 0}, 0.4F + twist * place));
         // Both shapes are 2 units wide. Slabs leave a gap between them, balls run into each other.
-        const float thickness = m_shape.isRound ? width / 3 : HEIGHT / count * 0.45F;
+        const float thickness = HEIGHT / count * (m_shape.isRound ? 1.2F : 0.45F);
         transform->scaleFactor.setValue({width / 2, thickness, width / 2});
         auto* const material = static_cast<LuMaterial*>(plate->getChild(MATERIAL));
         material->diffuseColor.setValue(getColor(m_shape.hue + 50 * place, 0.7F + 0.3F * place));
