@@ -33,6 +33,10 @@ list(REMOVE_DUPLICATES sources)
 
 add_executable(panelix-tests ${sources})
 target_link_libraries(panelix-tests PRIVATE panelix-play panelix-viewer panelix panelix-options GTest::gtest GTest::gmock)
+if(WIN32)
+    # Each test is a start of the program, and Wine reads all of it: half of the time went into what debuggers want.
+    target_link_options(panelix-tests PRIVATE LINKER:--strip-debug)
+endif()
 set_property(SOURCE ${host} APPEND PROPERTY COMPILE_DEFINITIONS
     PANELIX_TEST_FONTS="${CMAKE_BINARY_DIR}/fonts.conf" PANELIX_TEST_OUTPUT="${CMAKE_BINARY_DIR}/test-output"
     PANELIX_RANDOM_ACTIONS=${randomActions})
