@@ -15,7 +15,7 @@ set(randomActions 80000)
 if(WIN32)
     set(randomActions 1000)
     # What only the window system in memory offers, and what only Linux has.
-    list(FILTER sources EXCLUDE REGEX "/tests/platform/(win32/memory|lumora/viewer/glfw)/")
+    list(FILTER sources EXCLUDE REGEX "/tests/(pictures/egl|platform/(win32/memory|lumora/gl/egl|lumora/viewer/glfw))/")
 else()
     file(GLOB native CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/native/*.cpp)
     list(APPEND host ${native})

@@ -13,8 +13,8 @@ cd "$PANELIX_ROOT"
 {
 # Debian packages by purpose; docs/architecture.md has the reason for each.
 PACKAGES_NATIVE="cmake ninja-build ccache g++ googletest libglm-dev libfreetype-dev libfontconfig-dev
-    libglu1-mesa-dev libglfw3-dev libegl-dev libgl-dev libstb-dev libcli11-dev libgl1-mesa-dri fonts-wine
-    xvfb"
+    libglu1-mesa-dev libglfw3-dev libegl-dev libgl-dev libgles-dev libstb-dev libcli11-dev libgl1-mesa-dri
+    fonts-wine xvfb"
 PACKAGES_WINDOWS="cmake ninja-build ccache g++-mingw-w64-x86-64-posix googletest libglm-dev libstb-dev libcli11-dev
     wine wine64 fonts-wine xvfb xdotool x11-apps netpbm libgl1-mesa-dri libxcomposite1"
 PACKAGES_FUZZ="clang llvm libclang-rt-dev"

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How panels look: seen from the front as in the pictures of this folder, and close up.
-#include "controls/LuDialogPushButton.h"
-#include "platform/lumora/gl/LuOffscreenRenderer.h"
+#include "tests/pictures/PanelPicture.h"
 #include "platform/lumora/nodes/LuCamera.h"
-#include "tests/layout/DialogTest.h"
 #include "tests/pictures/Reference.h"
 
 #include <algorithm>
@@ -11,47 +9,7 @@
 
 namespace {
 
-constexpr const char* PANEL = R"(
-TopLevelDialog {
-    label "A panel"
-    width 240
-    height 180
-    margin 4
-    rowSpacing 4
-    DialogLabel { label "A text" }
-    DialogPushButton { label "Released" buttonLabel "Press" }
-    DialogPushButton { auditorID "pressed" label "Pressed" buttonLabel "Held" }
-    DialogSeparator { }
-    RowDialog {
-        enable FALSE
-        DialogPushButton { labelVisibility FALSE buttonLabel "Disabled" }
-        DialogPushButton { labelVisibility FALSE edgeStyle SHADOW_IN buttonLabel "Sunk" }
-    }
-}
-)";
-
-class PanelPictureTest : public DialogTest {
-protected:
-    ~PanelPictureTest() override { LuPanelix::setSkin("default"); }
-
-    /// The panel from the front, a unit a pixel, on a dark blue.
-    LuPicture drawFromFront(LuTopLevelDialog* dialog) {
-        buildIn3D(dialog);
-        LuOffscreenRenderer renderer;
-        renderer.setSize(dialog->width.getValue(), dialog->height.getValue());
-        renderer.setBackground({0.1F, 0.1F, 0.3F});
-        renderer.lookFromFront(0, 0);
-        LuPicture picture;
-        EXPECT_TRUE(renderer.render(dialog, picture));
-        return picture;
-    }
-    LuPicture drawPanel() {
-        auto* const dialog = read<LuTopLevelDialog>(PANEL);
-        buildIn3D(dialog);
-        static_cast<LuDialogPushButton*>(dialog->searchForAuditorId("pressed"))->change3DButtonState(1);
-        return drawFromFront(dialog);
-    }
-};
+class PanelPictureTest : public PanelPicture {};
 
 TEST_F(PanelPictureTest, panelOfTheDefaultSkin_looksAsInItsPicture) {
     expectLikeReference(drawPanel(), "panel-default");
@@ -63,7 +21,7 @@ TEST_F(PanelPictureTest, panelOfTheSlateSkin_looksAsInItsPicture) {
 }
 
 TEST_F(PanelPictureTest, minimisedPanel_looksAsInItsPicture) {
-    auto* const dialog = read<LuTopLevelDialog>(PANEL);
+    auto* const dialog = read<LuTopLevelDialog>(getPanel());
     buildIn3D(dialog);
     dialog->minimized = true;
     LuPicture picture = drawFromFront(dialog);

@@ -44,6 +44,27 @@ int countOdd(const LuPicture& left, const LuPicture& right) {
 
 std::string getReferencePath(const std::string& name) { return "tests/pictures/" + name + ".png"; }
 
+/// What is to be said against a picture; nothing when it looks like the expected one, which is called `what`.
+std::string compare(const LuPicture& picture, const LuPicture& expected, const std::string& name,
+                    const std::string& what) {
+    const bool isSameSize =
+        picture.getWidth() == expected.getWidth() && picture.getHeight() == expected.getHeight();
+    const int odd = isSameSize ? countOdd(picture, expected) : 0;
+    if (isSameSize && odd * PIXELS_PER_ODD <= static_cast<int>(expected.getPixels().size()))
+        return {};
+    const std::string drawn = getTestOutputFolder() + "/" + name + ".png";
+    picture.writePng(drawn);
+    if (expected.isEmpty())
+        return what + " can't be read; what was drawn is " + drawn;
+    if (!isSameSize)
+        return what + " is of another size; what was drawn is " + drawn;
+    const std::string difference = getTestOutputFolder() + "/" + name + "-difference.png";
+    makeDifference(picture, expected).writePng(difference);
+    return std::to_string(odd) + " of " + std::to_string(expected.getPixels().size()) +
+           " pixels are not those of " + what + "; what was drawn is " + drawn + ", where it differs " +
+           difference;
+}
+
 } // namespace
 
 LuPicture readPng(const std::string& path) {
@@ -59,23 +80,15 @@ LuPicture readPng(const std::string& path) {
 
 std::string compareWithReference(const LuPicture& picture, const std::string& name) {
     const std::string reference = getReferencePath(name);
-    const LuPicture expected = readPng(reference);
-    const bool isSameSize =
-        picture.getWidth() == expected.getWidth() && picture.getHeight() == expected.getHeight();
-    const int odd = isSameSize ? countOdd(picture, expected) : 0;
-    if (isSameSize && odd * PIXELS_PER_ODD <= static_cast<int>(expected.getPixels().size()))
-        return {};
-    const std::string drawn = getTestOutputFolder() + "/" + name + ".png";
-    picture.writePng(drawn);
-    if (expected.isEmpty())
-        return reference + " can't be read; what was drawn is " + drawn;
-    if (!isSameSize)
-        return reference + " is of another size; what was drawn is " + drawn;
-    const std::string difference = getTestOutputFolder() + "/" + name + "-difference.png";
-    makeDifference(picture, expected).writePng(difference);
-    return std::to_string(odd) + " of " + std::to_string(expected.getPixels().size()) +
-           " pixels are not those of " + reference + "; what was drawn is " + drawn + ", where it differs " +
-           difference;
+    return compare(picture, readPng(reference), name, reference);
+}
+
+void expectLikePicture(const LuPicture& picture, const LuPicture& expected, const std::string& name) {
+    const std::string path = getTestOutputFolder() + "/" + name + "-expected.png";
+    const std::string fault = compare(picture, expected, name, path);
+    EXPECT_EQ(fault, "");
+    if (!fault.empty())
+        expected.writePng(path);
 }
 
 void expectLikeReference(const LuPicture& picture, const std::string& name) {

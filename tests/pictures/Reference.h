@@ -15,6 +15,9 @@
 /// for a comparison.
 void expectLikeReference(const LuPicture& picture, const std::string& name);
 
+/// Expects the same of two pictures that the test has drawn; a failure leaves both, by the name.
+void expectLikePicture(const LuPicture& picture, const LuPicture& expected, const std::string& name);
+
 /// What that comparison has to say against the picture; nothing when it looks like the reference.
 std::string compareWithReference(const LuPicture& picture, const std::string& name);
 

@@ -21,7 +21,7 @@
 class LuViewer {
 public:
     /// A window that does not show yet, whose content has this size in pixels. Null, with a message, where
-    /// there is no display, or no OpenGL 3.3.
+    /// there is no display, or neither OpenGL 3.3 nor, on Linux, ES 3.0.
     static std::unique_ptr<LuViewer> create(const LvString& title, int width, int height);
 
     virtual ~LuViewer();

@@ -8,19 +8,33 @@
 #include <EGL/eglext.h>
 
 #include <cstring>
+#include <initializer_list>
 #include <string>
 
 namespace {
+
+/// What a context is of.
+struct Kind {
+    EGLenum api;
+    const char* name;
+    int major, minor;
+};
+
+Kind makeCore(int major, int minor) { return {EGL_OPENGL_API, "core", major, minor}; }
+Kind makeEs(int major, int minor) { return {EGL_OPENGL_ES_API, "ES", major, minor}; }
 
 /// A context that has neither a window nor a surface.
 class LuEglContext : public LuGLContext {
 public:
     ~LuEglContext() override;
-    bool open(int major, int minor);
+
+    /// Takes the first of these kinds that is to be had.
+    bool open(std::initializer_list<Kind> kinds);
     bool makeCurrent() override;
 
 private:
     static bool fail(const char* what);
+    bool createContext(const Kind& kind);
 
     EGLDisplay m_display = EGL_NO_DISPLAY;
     EGLContext m_context = EGL_NO_CONTEXT;
@@ -57,7 +71,22 @@ bool LuEglContext::fail(const char* what) {
     return false;
 }
 
-bool LuEglContext::open(int major, int minor) {
+bool LuEglContext::createContext(const Kind& kind) {
+    if (!eglBindAPI(kind.api))
+        return false;
+    // ES has no profiles.
+    const EGLint attributes[] = {EGL_CONTEXT_MAJOR_VERSION,
+                                 kind.major,
+                                 EGL_CONTEXT_MINOR_VERSION,
+                                 kind.minor,
+                                 kind.api == EGL_OPENGL_API ? EGL_CONTEXT_OPENGL_PROFILE_MASK : EGL_NONE,
+                                 EGL_CONTEXT_OPENGL_CORE_PROFILE_BIT,
+                                 EGL_NONE};
+    m_context = eglCreateContext(m_display, EGL_NO_CONFIG_KHR, EGL_NO_CONTEXT, attributes);
+    return m_context != EGL_NO_CONTEXT;
+}
+
+bool LuEglContext::open(std::initializer_list<Kind> kinds) {
     m_display = findDisplay();
     EGLint eglMajor = 0;
     EGLint eglMinor = 0;
@@ -65,22 +94,15 @@ bool LuEglContext::open(int major, int minor) {
         m_display = EGL_NO_DISPLAY;
         return fail("the system gives no display without a window");
     }
-    if (!eglBindAPI(EGL_OPENGL_API))
-        return fail("the system has OpenGL ES only");
-    const EGLint attributes[] = {EGL_CONTEXT_MAJOR_VERSION,
-                                 major,
-                                 EGL_CONTEXT_MINOR_VERSION,
-                                 minor,
-                                 EGL_CONTEXT_OPENGL_PROFILE_MASK,
-                                 EGL_CONTEXT_OPENGL_CORE_PROFILE_BIT,
-                                 EGL_NONE};
-    m_context = eglCreateContext(m_display, EGL_NO_CONFIG_KHR, EGL_NO_CONTEXT, attributes);
-    if (m_context == EGL_NO_CONTEXT) {
-        const std::string what =
-            "no core context of version " + std::to_string(major) + "." + std::to_string(minor);
-        return fail(what.c_str());
+    std::string wanted;
+    for (const Kind& kind : kinds) {
+        if (createContext(kind))
+            return makeCurrent() && m_functions->load(&loadFunction);
+        wanted += wanted.empty() ? "no " : ", no ";
+        wanted += std::string(kind.name) + " context of version " + std::to_string(kind.major) + "." +
+                  std::to_string(kind.minor);
     }
-    return makeCurrent() && m_functions->load(&loadFunction);
+    return fail(wanted.c_str());
 }
 
 LuEglContext::~LuEglContext() {
@@ -100,11 +122,21 @@ bool LuEglContext::makeCurrent() {
     return fail("the context can't be made current");
 }
 
-} // namespace
-
-std::unique_ptr<LuGLContext> LuGLContext::create(int major, int minor) {
+std::unique_ptr<LuGLContext> open(std::initializer_list<Kind> kinds) {
     auto context = std::make_unique<LuEglContext>();
-    if (!context->open(major, minor))
+    if (!context->open(kinds))
         return nullptr;
     return context;
+}
+
+} // namespace
+
+std::unique_ptr<LuGLContext> LuGLContext::create() { return open({makeCore(3, 3), makeEs(3, 0)}); }
+
+std::unique_ptr<LuGLContext> LuGLContext::createCore(int major, int minor) {
+    return open({makeCore(major, minor)});
+}
+
+std::unique_ptr<LuGLContext> LuGLContext::createEs(int major, int minor) {
+    return open({makeEs(major, minor)});
 }

@@ -111,7 +111,14 @@ bool LuWglContext::makeCurrent() {
 
 void LuWglContext::swapBuffers() { SwapBuffers(m_device); }
 
-std::unique_ptr<LuGLContext> LuGLContext::create(int major, int minor) {
+std::unique_ptr<LuGLContext> LuGLContext::create() { return createCore(); }
+
+std::unique_ptr<LuGLContext> LuGLContext::createEs(int, int) {
+    LuDebugError::post("LuGLContext::createEs", "OpenGL ES is had by EGL alone, and this is WGL.");
+    return nullptr;
+}
+
+std::unique_ptr<LuGLContext> LuGLContext::createCore(int major, int minor) {
     // In a window that never shows. Pixels of such a window are nobody's business: what is drawn goes into
     // framebuffer objects.
     auto context = std::make_unique<LuWglContext>();

@@ -20,13 +20,14 @@ bool fail(const char* what) {
     return false;
 }
 
-GLFWwindow* createWindow(const LvString& title, int width, int height, int contextApi) {
+GLFWwindow* createWindow(const LvString& title, int width, int height, int contextApi, bool isEs = false) {
     glfwDefaultWindowHints();
     glfwWindowHint(GLFW_VISIBLE, GLFW_FALSE);
     glfwWindowHint(GLFW_CONTEXT_CREATION_API, contextApi);
+    glfwWindowHint(GLFW_CLIENT_API, isEs ? GLFW_OPENGL_ES_API : GLFW_OPENGL_API);
     glfwWindowHint(GLFW_CONTEXT_VERSION_MAJOR, 3);
-    glfwWindowHint(GLFW_CONTEXT_VERSION_MINOR, 3);
-    glfwWindowHint(GLFW_OPENGL_PROFILE, GLFW_OPENGL_CORE_PROFILE);
+    glfwWindowHint(GLFW_CONTEXT_VERSION_MINOR, isEs ? 0 : 3);
+    glfwWindowHint(GLFW_OPENGL_PROFILE, isEs ? GLFW_OPENGL_ANY_PROFILE : GLFW_OPENGL_CORE_PROFILE);
     // The scene is drawn elsewhere, with depth and samples of its own.
     glfwWindowHint(GLFW_DEPTH_BITS, 0);
     glfwWindowHint(GLFW_STENCIL_BITS, 0);
@@ -51,7 +52,9 @@ bool LuGlfwContext::open(const LvString& title, int width, int height) {
     if (!m_window)
         m_window = createWindow(title, width, height, GLFW_NATIVE_CONTEXT_API);
     if (!m_window)
-        return fail("there is no OpenGL 3.3");
+        m_window = createWindow(title, width, height, GLFW_EGL_CONTEXT_API, true);
+    if (!m_window)
+        return fail("there is neither OpenGL 3.3 nor ES 3.0");
     if (!makeCurrent() || !m_functions->load(&glfwGetProcAddress))
         return false;
     // Not more pictures than the display shows.

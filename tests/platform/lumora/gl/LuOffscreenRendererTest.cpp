@@ -332,7 +332,7 @@ TEST_F(LuOffscreenRendererTest, systemWithoutOpenGL_isReported) {
 
 TEST_F(LuOffscreenRendererTest, versionThatThereIsNot_givesNoContext) {
     expectMessageContaining("LuGLContext::create", "no core context of version 9.9");
-    EXPECT_EQ(LuGLContext::create(9, 9), nullptr);
+    EXPECT_EQ(LuGLContext::createCore(9, 9), nullptr);
 }
 
 TEST_F(LuOffscreenRendererTest, severalRenderers_doNotDisturbEachOther) {
