@@ -7,8 +7,8 @@
 #include "platform/lumora/nodes/LuGroup.h"
 #include "platform/lumora/win/LuWin.h"
 #include "tests/random/RandomCheckBox.h"
+#include "tests/random/RandomNumberSlider.h"
 #include "tests/random/RandomPanel.h"
-#include "tests/random/RandomSlider.h"
 #include "tests/random/RandomTexts.h"
 
 #include <gtest/gtest.h>
@@ -296,8 +296,10 @@ std::unique_ptr<RandomComponent> makeRandomComponent(RandomPanel& panel, LuDialo
         {LuColumnDialog::getClassTypeId(), make<RandomGroup, LuDialogGroup>},
         {LuRowDialog::getClassTypeId(), make<RandomGroup, LuDialogGroup>},
         {LuDialogCheckBox::getClassTypeId(), make<RandomCheckBox, LuDialogCheckBox>},
-        {LuDialogIntegerSlider::getClassTypeId(), make<RandomIntegerSlider, LuDialogIntegerSlider>},
-        {LuDialogRealSlider::getClassTypeId(), make<RandomRealSlider, LuDialogRealSlider>},
+        {LuDialogIntegerSlider::getClassTypeId(),
+         make<RandomNumberSlider<LuDialogIntegerSlider>, LuDialogIntegerSlider>},
+        {LuDialogRealSlider::getClassTypeId(),
+         make<RandomNumberSlider<LuDialogRealSlider>, LuDialogRealSlider>},
         {LuDialogLabel::getClassTypeId(), make<RandomLabel, LuDialogLabel>},
         {LuDialogPushButton::getClassTypeId(), make<RandomPushButton, LuDialogPushButton>},
         {LuDialogSeparator::getClassTypeId(), make<RandomSeparator, LuDialogSeparator>},

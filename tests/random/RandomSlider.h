@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "controls/LuDialogIntegerSlider.h"
-#include "controls/LuDialogRealSlider.h"
+#include "controls/LuDialogSlider.h"
 #include "tests/random/RandomComponent.h"
 
-/// What is expected of an integer or a real slider.
+/// What is expected of a slider, whatever kind of number it shows. What the number is, the derived class
+/// knows.
 ///
 /// Where the user brings the thumb or the cursor is checked roughly, by where the mouse is; all that follows
 /// from the position is expected exactly.
-template <class Slider>
 class RandomSlider : public RandomComponent {
 public:
-    using Number = std::remove_cvref_t<decltype(std::declval<Slider&>().value.getValue())>;
-
-    RandomSlider(RandomPanel& panel, Slider& slider)
-        : RandomComponent(panel, slider), m_slider(slider), m_min(slider.min.getValue()),
-          m_max(slider.max.getValue()), m_value(slider.value.getValue()) {}
+    RandomSlider(RandomPanel& panel, LuDialogSlider& slider)
+        : RandomComponent(panel, slider), m_slider(slider) {}
 
     void addActions(std::vector<RandomAction>& actions) override;
     void windowsBuilt() override;
@@ -45,6 +41,38 @@ protected:
     /// The native label is made anew in its style, with the enabling of the field.
     void alignmentChanged() override { m_isEnabledInWindows = isEnableSet(); }
 
+    // The number
+
+    /// The number at the position, as it is written in the edit box or in the scene.
+    virtual std::string printInBox() const = 0;
+    virtual std::string printInScene() const = 0;
+
+    /// The value follows the position, and is told when it is another one.
+    virtual void takeNumber() = 0;
+
+    /// The position follows what was entered. Whether the number is written over it.
+    virtual bool takeEntry(const LvString& text) = 0;
+
+    /// The entry in the scene is finished.
+    virtual void enterInScene() = 0;
+
+    /// Adds what a key types in the scene, if it has a place there.
+    virtual void typeKey(LuKeyboardEvent::Key key, std::string& text) = 0;
+    virtual void addNumberActions(std::vector<RandomAction>& actions) = 0;
+    virtual const char* chooseFormat() = 0;
+
+    // What becomes of a position
+    void showValue();
+    void showText(bool isInWindows);
+    void moveThumb();
+    void moveCursor();
+    bool hasWindows() const { return m_slider.getEditWidget() != nullptr; }
+
+    float m_position = 0;
+    std::string m_sceneText;
+    bool m_isLengthOld = false; ///< A move of the cursor has come before the change of the frame's length.
+    bool m_isEditing = false;   ///< In the scene.
+
 private:
     /// What a press in the scene that is under way holds.
     enum class Hold { NOTHING, CURSOR, CHECK };
@@ -52,46 +80,25 @@ private:
     void addFieldActions(std::vector<RandomAction>& actions);
     void addUserActions(std::vector<RandomAction>& actions);
 
-    // The number and its position
-    Number chooseNumber();
-    float getPositionOfValue() const;
-    Number getNumber() const;
-    Number getNumberInBox() const;
-    std::string print(Number number) const;
-    bool hasWindows() const { return m_slider.getEditWidget() != nullptr; }
-
-    // Changes of the fields, by the program or by what the user enters
-    void changeMin(Number min);
-    void changeMax(Number max);
-    void changeValue(Number value);
-    bool limit(Number& number);
-    bool stretchLimits(Number number);
-
-    // What becomes of a position
-    void showValue();
-    void showText(bool isInWindows);
-    void moveThumb();
-    void moveCursor();
-    void takeNumber();
-    void turnCheck(bool isOn);
+    /// The slider's own position, which it doesn't tell.
+    float getActualPosition() const;
 
     // What the user does
     void dragThumb(int x);
+    void sentToThumb(const RandomMessage& sent);
+    void sentToBox(const RandomMessage& sent);
     void finishDrag();
     void enter(const LvString& text);
-    void enterInScene();
-    bool takeEntry(const LvString& text);
     void jumpTo(const LvVec3f& place);
     float getFrameLength() const;
-    void expectCall();
+    void turnCheck(bool isOn);
 
     void checkWindows();
     void checkScene();
 
-    Slider& m_slider;
-    Number m_min, m_max, m_value;
-    float m_position = 0;
-    bool m_isValueWatched = true; ///< A change of the value by a field reaches the slider.
+    static constexpr float CURSOR_SIZE = 10;
+
+    LuDialogSlider& m_slider;
 
     // In the windows
     HWND m_sliderWindow = nullptr;
@@ -107,23 +114,14 @@ private:
 
     // In the scene
     std::string m_sceneLabel;
-    std::string m_sceneText;
     int m_checkSwitch = 0;
     float m_cursor = 0; ///< The way of the cursor from position 0.
     float m_cursorPosition = 0;
     bool m_isCursorMoved = false;     ///< By the action that is under way.
-    float m_length = 0;               ///< Of the frame, after the action before.
-    bool m_isLengthOld = false;       ///< A move of the cursor has come before the change of the length.
     bool m_isCursorMovedLast = false; ///< It is moved at the end of the action.
-    bool m_isEditing = false;
+    float m_length = 0;               ///< Of the frame, after the action before.
     Hold m_hold = Hold::NOTHING;
     LvVec3f m_pressPlace;
     float m_pressCursor = 0;
     LvBox3f m_pressBox; ///< The frame at the press.
 };
-
-using RandomIntegerSlider = RandomSlider<LuDialogIntegerSlider>;
-using RandomRealSlider = RandomSlider<LuDialogRealSlider>;
-
-extern template class RandomSlider<LuDialogIntegerSlider>;
-extern template class RandomSlider<LuDialogRealSlider>;
