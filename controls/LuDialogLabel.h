@@ -10,7 +10,9 @@
 /// | `label`          | the text of a "STATIC"                       | the lines of a text, wrapped at the width |
 /// | `labelAlignment` | where the text stands in the whole component | the same                                  |
 ///
-/// The text takes no place in the label column of the container. `labelVisibility` has no effect on it.
+/// The text takes no place in the label column of the container. `labelVisibility` has no effect on it. In
+/// 3D a text aligned RIGHT, which is the default, stands to the left of the right edge by its own width more:
+/// its justification and its place both count the width.
 class LuDialogLabel : public LuControl {
     LU_KIT_HEADER(LuDialogLabel)
 

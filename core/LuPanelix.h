@@ -62,10 +62,10 @@ class LuPanelix : public LuDragger {
     /// such component.
     static LuPanelix* loadFromFile(LvString file, LvString auditorID);
 
-    /// The directories that hold skins, separated by ";".
-    static int setSkinsDirectory(LvString directory);
-    static LvString getSkinsDirectory();
-    static void setSkinsDirectories(LvString directories);
+    /// The directories that hold skins, separated by ";": that below LUMORAHOME, then PANELIX_SKINS_DIR.
+    static int setSkinsDirectory(LvString directory);      ///< On purpose the same as setSkin. Gives 1.
+    static LvString getSkinsDirectory();                   ///< The same as getSkinsDirectories.
+    static void setSkinsDirectories(LvString directories); ///< Sets PANELIX_SKINS_DIR alone.
     static LvString getSkinsDirectories();
 
     /// Takes the skin in a directory: the name itself, then in the working directory, then in the skins
@@ -113,7 +113,7 @@ class LuPanelix : public LuDragger {
     int canBeTraversed() const { return m_canBeTraversed; }
     void setCanBeTraversed(int canBeTraversed) { m_canBeTraversed = canBeTraversed; }
 
-    void apply3DParentTranslation();
+    void apply3DParentTranslation(); ///< Puts the parent's offset in front of the geometry.
     LvVec3f get3DParentTranslation() const { return m_parentTranslation; }
 
     /// Builds a rendition, or brings it up to date: windows below `parent` when `is2D`, else 3D geometry.
@@ -129,18 +129,18 @@ class LuPanelix : public LuDragger {
 
     /// Takes an event of a component below and brings it to the auditors here, or hands it up.
     virtual void applyAuditor(LuPanelix*) {}
-    virtual void resetSize() {}
-    virtual void changeEnable() {}
+    virtual void resetSize() {}    ///< Forgets sizes: the next build measures anew.
+    virtual void changeEnable() {} ///< This and the next two bring a field to the windows.
     virtual void changeLabel() {}
     virtual void changeLabelAlignment() {}
-    virtual void show3D(int show);
-    virtual void set3DParentTranslation(LvVec3f& translation);
-    virtual void change3DPosition() {}
-    virtual void change3DWidgetEnable(int enable);
-    virtual void change3DEnable();
+    virtual void show3D(int show);                             ///< Shows or hides the geometry.
+    virtual void set3DParentTranslation(LvVec3f& translation); ///< The parent's offset, in scene units.
+    virtual void change3DPosition() {}                         ///< Follows a new offset or position.
+    virtual void change3DWidgetEnable(int enable);             ///< A container takes input, or takes none.
+    virtual void change3DEnable();                             ///< This and the next two bring a field to 3D.
     virtual void change3DLabel();
     virtual void change3DLabelAlignment() {}
-    virtual void set3DInactive();
+    virtual void set3DInactive(); ///< Keys and drags in 3D go to another component.
 
     /// What kind of component this is, for the code below that may not know the classes above it.
     virtual bool isTopLevelDialog() const { return false; }

@@ -69,18 +69,18 @@ class LuDialogComponent : public LuTopComponent {
     /// The natural sizes of the content and of the label.
     virtual LvVec2i32 getComponentInitSize() { return {0, 0}; }
     virtual LvVec2i32 getLabelInitSize();
-    virtual void setFocus() {}
-    virtual void changeWidgetEnable(int enable);
+    virtual void setFocus() {} ///< Takes the input focus, where the component has a use for it.
+    virtual void changeWidgetEnable(int enable); ///< A container takes input, or takes none.
 
     /// What stands for size fields that are 0.
     virtual void getDefaultSize(LvVec2i32& size, LvVec2i32& minSize, LvVec2i32& maxSize);
-    virtual void changeLabelVisibility() {}
+    virtual void changeLabelVisibility() {} ///< This and the next bring a field to the windows.
     virtual void changeEdgeStyle();
-    virtual void updateComponentWidget();
-    virtual void changeWidth();
+    virtual void updateComponentWidget(); ///< Gives the carrier window its place and size.
+    virtual void changeWidth(); ///< This and the next two take a field for the user's. No layout follows.
     virtual void changeHeight();
     virtual void changeMinMaxSize();
-    virtual void change3DLabelVisibility() {}
+    virtual void change3DLabelVisibility() {} ///< This and the next bring a field to 3D.
     virtual void change3DEdgeStyle();
 
     /// Room and place of the control beside the label: in the carrier window; and in 3D, where the place is

@@ -15,8 +15,9 @@ class LvPlaneProjector;
 ///
 /// | field                                    | windows                                                          | 3D                                                               |
 /// |------------------------------------------|------------------------------------------------------------------|------------------------------------------------------------------|
+/// | `label`                                  | the window's title                                               | the panel's title                                                |
 /// | `width`, `height`                        | of the window with its frame; 0: from the children               | of the panel                                                     |
-/// | `minWidth` ... `maxHeight`               | limits for the user; 0: from the children                        | -                                                                |
+/// | `minWidth` ... `maxHeight`               | limits, for the user too; 0: from the children                   | limits                                                           |
 /// | `position`                               | on the screen, follows the window                                | -                                                                |
 /// | `position3D`                             | -                                                                | top-left corner, y growing downwards as in windows               |
 /// | `resizable`                              | whether the user can change the size                             | -                                                                |
@@ -104,9 +105,12 @@ class LuTopLevelDialog : public LuChildHolder<LuPanelix, LuTopComponent> {
 
     /// Adds (`sign` 1) or takes off (-1) the frame, the title, scroll bars and the menu.
     void fixSizeWithBorder(LvVec2i32& size, int sign) const;
+
+    /// The steps of a layout of the windows: the inner window's size, whatever the argument; its scroll bars;
+    /// the children, where the toolkit runs headless in 3D; their place by the bars.
+    void updateTopLevelWidget(const LvVec2i32& size);
     void setScrollProperties();
     void updateChildren();
-    void updateTopLevelWidget(const LvVec2i32& size);
     void updateTopLevelWidgetScrollPosition() { m_scrollBars.scrollToPosition(m_topWidget, false); }
 
     /// The size of the frame in 3D: (width, height, 1), while collapsed (width, 20, 1).
@@ -120,8 +124,11 @@ class LuTopLevelDialog : public LuChildHolder<LuPanelix, LuTopComponent> {
     void resetSize() override;
     void changeEnable() override;
     void changeLabel() override;
+
+    /// Take the field for the user's. No layout follows.
     virtual void changeWidth() { m_sizes.takeSize(0); }
     virtual void changeHeight() { m_sizes.takeSize(1); }
+
     void show3D(int show) override;
     void change3DPosition() override;
     void change3DLabel() override;
