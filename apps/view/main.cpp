@@ -71,7 +71,8 @@ void addOptions(CLI::App& app, Options& options) {
     app.add_option("--camera", options.camera,
                    "How the scene is seen: front, one unit a pixel (without it), or tilted")
         ->transform(CLI::CheckedTransformer(std::map<std::string, PanelScene::View>{
-            {"front", PanelScene::FRONT}, {"tilted", PanelScene::TILTED}}))
+                                                {"front", PanelScene::FRONT}, {"tilted", PanelScene::TILTED}})
+                        .description(""))
         ->type_name("front|tilted");
     app.add_option(
            "--play", options.play,

@@ -34,6 +34,8 @@ int main(int argumentCount, char** arguments) {
     LuPanelix* component = LuPanelix::loadFromFile(file, "dialog");
     if (!component || !component->isOfType(LuTopLevelDialog::getClassTypeId())) {
         std::fprintf(stderr, "first-dialog: no dialog in %s\n", file);
+        if (component)
+            component->unref();
         LuPanelix::finish();
         return 1;
     }

@@ -7,6 +7,7 @@
 #include "platform/lumora/nodes/LuTransforms.h"
 #include "platform/lumora/viewer/LuViewer.h"
 
+#include <filesystem>
 #include <string_view>
 
 namespace {
@@ -27,6 +28,15 @@ LuCamera* makeCamera(bool isTilted) {
     camera->farDistance.setValue(2000);
     camera->focalDistance.setValue(600);
     return camera;
+}
+
+/// Writes a picture for a play file, in a folder that needn't be there yet.
+bool takePicture(LuSceneView& view, const std::string& path) {
+    const std::filesystem::path folder = std::filesystem::u8path(path).parent_path();
+    std::error_code ignored; // The writing tells.
+    if (!folder.empty())
+        std::filesystem::create_directories(folder, ignored);
+    return view.writePicture(path);
 }
 
 } // namespace
@@ -76,6 +86,6 @@ bool Stage::play(LuTopLevelDialog* panel) {
     view.setSize(WIDTH, HEIGHT);
     std::vector<PlayStep> steps;
     ScenePlayer player(m_scene, m_camera, LvViewportRegion(WIDTH, HEIGHT),
-                       [&view](const std::string& path) { return view.writePicture(path); });
+                       [&view](const std::string& path) { return takePicture(view, path); });
     return loadPlayScript(m_playFile, steps) && player.play(steps, {panel});
 }
