@@ -80,6 +80,13 @@ TEST_F(LuTopLevelDialog3DTest, movedDialog_takesItsChildrenAlong) {
     EXPECT_EQ(dialog->getChild(0)->get3DParentTranslation().x, 104);
 }
 
+TEST_F(LuTopLevelDialog3DTest, movedDialogOfAnOddSize_standsOnWholeUnits) {
+    LuTopLevelDialog* const dialog = buildDialog("TopLevelDialog { width 301 height 201 }");
+    EXPECT_EQ(getTranslation(dialog, "geomSwitch"), LvVec3f(150.5F, -100.5F, 0));
+    dialog->position3D = LvVec3f(10, 0, 0);
+    EXPECT_EQ(getTranslation(dialog, "geomSwitch"), LvVec3f(160, -100, 0));
+}
+
 TEST_F(LuTopLevelDialog3DTest, movedDialogThatHidesItsChildren_leavesThem) {
     LuTopLevelDialog* const dialog = buildDialog(s_dialog);
     dialog->hideChildren = true;
@@ -217,6 +224,14 @@ TEST_F(LuTopLevelDialog3DTest, menuBar_putsTheChildren18UnitsLowerAndIsClosedByT
     EXPECT_EQ(bar->m_shown, 0);
 }
 
+TEST_F(LuTopLevelDialog3DTest, menuBar_hasNoPartInTheSpacing) {
+    LuTopLevelDialog* const dialog =
+        read<LuTopLevelDialog>("TopLevelDialog { rowSpacing 10 DialogComponent { } DialogComponent { } }");
+    const int before = getSizesOf(dialog).size.y;
+    dialog->insertChild(new Bar, 0);
+    EXPECT_EQ(getSizesOf(dialog).size.y, before + GetSystemMetrics(SM_CYMENU));
+}
+
 TEST_F(LuTopLevelDialog3DTest, newSkin_keepsThePartsAndIsLoaded) {
     LuTopLevelDialog* const dialog = buildDialog(s_dialog);
     const struct {
@@ -274,6 +289,14 @@ TEST_F(LuTopLevelDialog3DTest, changedLabel_isShown) {
     auto* const text = static_cast<LuText3*>(group->getChild(group->getNumChildren() - 1));
     ASSERT_EQ(text->string.getNum(), 1);
     EXPECT_EQ(text->string[0], "Other");
+}
+
+TEST_F(LuTopLevelDialog3DTest, changedLabel_standsWhereTheFirstOneStood) {
+    LuTopLevelDialog* const dialog = buildDialog(s_dialog);
+    const LvVec3f before = getTranslation(dialog, "labelSep");
+    dialog->label = LvString("_"); // Lies lower than a capital.
+    dialog->updateDialogBuild(0);
+    EXPECT_EQ(getTranslation(dialog, "labelSep"), before);
 }
 
 TEST_F(LuTopLevelDialog3DTest, panelOfADialogWithoutAHeight_hasRoomForTheTitleAboveTheChildren) {
