@@ -292,9 +292,12 @@ TEST_F(LuTopLevelDialog3DTest, changedLabel_isShown) {
 }
 
 TEST_F(LuTopLevelDialog3DTest, changedLabel_standsWhereTheFirstOneStood) {
+    const LvVec3f own =
+        getTranslation(buildDialog("TopLevelDialog { label \"_\" width 300 height 200 }"), "labelSep");
     LuTopLevelDialog* const dialog = buildDialog(s_dialog);
     const LvVec3f before = getTranslation(dialog, "labelSep");
-    dialog->label = LvString("_"); // Lies lower than a capital.
+    ASSERT_NE(before, own);
+    dialog->label = LvString("_");
     dialog->updateDialogBuild(0);
     EXPECT_EQ(getTranslation(dialog, "labelSep"), before);
 }
