@@ -5,6 +5,8 @@
 #include "platform/lumora/io/LuDB.h"
 #include "platform/lumora/io/LuInput.h"
 
+#include <algorithm>
+
 LuPanelix* LuPanelix::loadFromFile(LvString file, LvString auditorID) {
     const LuGroup* const root = LuLoadedFiles::load(file);
     if (!root)
@@ -54,7 +56,8 @@ LvString LuPanelix::convertToCString(const LvString& text, const LuPanelix* comp
         return text;
     const char* const lineEnd = component ? component->getLineEnd() : "\n";
     const std::string_view source = text.view();
-    if (source.find_first_of("\n\r\\") == std::string_view::npos)
+    const auto isKept = [](char byte) { return byte != '\n' && byte != '\r' && byte != '\\'; };
+    if (std::all_of(source.begin(), source.end(), isKept))
         return text;
     std::string result;
     result.reserve(source.size() * 2);

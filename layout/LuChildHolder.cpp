@@ -173,8 +173,12 @@ void LuChildHolder<Base, Child>::applyAuditor(LuPanelix* component) {
 
 template <class Base, class Child>
 void LuChildHolder<Base, Child>::search(LuSearchAction* action) {
-    LuNode::search(action);
-    if (!LuBaseKit::searchingChildren || action->hasTerminated())
+    if (action->goesBackwards() || !LuBaseKit::searchingChildren) {
+        Base::search(action);
+        return;
+    }
+    action->consider(this);
+    if (action->hasTerminated())
         return;
     const int last = this->m_children.getLength() - 1;
     this->m_children.traverse(action, 0, last - 1);

@@ -403,6 +403,23 @@ TEST_F(LuDialogGroupTest, searchForTheFirstInKits_endsItsPathAtTheComponent) {
     EXPECT_EQ(action.getPath()->getTail(), row->getChild(0));
 }
 
+TEST_F(LuDialogGroupTest, searchForTheLastInKits_givesTheWholeWayToIt) {
+    const Held<LuRowDialog> row;
+    row->addChild(new LuDialogComponent);
+    row->addChild(new LuDialogComponent);
+    buildIn3D(row.get());
+    LuBaseKit::searchingChildren = true;
+    LuSearchAction action;
+    action.setType(LuScale::getClassTypeId());
+    action.setInterest(LuSearchAction::LAST);
+    action.apply(row.get());
+    LuBaseKit::searchingChildren = false;
+    ASSERT_NE(action.getPath(), nullptr);
+    const LuPath& last = *action.getPath();
+    EXPECT_TRUE(last.getTail()->isOfType(LuScale::getClassTypeId()));
+    EXPECT_FALSE(last.containsNode(row->getChild(0)));
+}
+
 TEST_F(LuDialogGroupTest, searchInAnEmptyGroup_findsNothing) {
     const Held<OpenRow> row;
     ASSERT_EQ(row->m_children.getLength(), 0);

@@ -46,7 +46,7 @@ private:
     int m_pathDepth = 0;
     PathCode m_pathCode = PathCode::NO_PATH;
     bool m_hasTerminated = false;
-    std::vector<Step> m_steps;
+    Steps m_steps;
 };
 
 void LuAction::start() {
@@ -139,7 +139,7 @@ void LuAction::visitChild(LuNode* child, int index) {
         m_steps.pop_back();
 }
 
-LuPath LuAction::makePath(const std::vector<Step>& steps) {
+LuPath LuAction::makePath(const Steps& steps) {
     LuPath path;
     path.reserve(steps.size());
     for (const Step& step : steps)

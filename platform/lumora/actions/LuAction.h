@@ -10,7 +10,7 @@ class LvViewportRegion;
 /// Walks a graph, or the part of it that matters to a path, and does something at each node.
 ///
 /// What is met on the way may apply the action again; the outer walk then goes on where it was.
-class LuAction {
+class LuAction : public LuPooled {
 public:
     /// Where the traversal stands with respect to the path it was applied to.
     enum class PathCode {
@@ -48,6 +48,9 @@ public:
     /// Goes on with a child of the current node.
     void traverseChild(LuNode* child, int index);
 
+    /// True for a traversal that visits the children of each node from the last to the first.
+    virtual bool goesBackwards() const { return false; }
+
     /// True once nothing further can change the result; nodes then don't go on.
     bool hasTerminated() const { return m_hasTerminated; }
 
@@ -56,7 +59,8 @@ public:
         LuNode* node;
         int index;
     };
-    const std::vector<Step>& getCurrentSteps() const { return m_steps; }
+    using Steps = std::vector<Step, LuPoolAllocator<Step>>;
+    const Steps& getCurrentSteps() const { return m_steps; }
 
 protected:
     /// What the action does at a node.
@@ -69,7 +73,7 @@ protected:
     void setTerminated() { m_hasTerminated = true; }
 
     /// The path of steps that were kept.
-    static LuPath makePath(const std::vector<Step>& steps);
+    static LuPath makePath(const Steps& steps);
 
     /// To be set in the constructor of an action that needs getCurrentSteps.
     void keepSteps() { m_keepsSteps = true; }
@@ -90,5 +94,5 @@ private:
     bool m_hasTerminated = false;
     bool m_isWalking = false;
     bool m_keepsSteps = false;
-    std::vector<Step> m_steps;
+    Steps m_steps;
 };

@@ -172,7 +172,7 @@ const LuPath* LuHandleEventAction::getPickPath() {
 
 bool LuHandleEventAction::isOnPickPath() {
     const LuPath* const path = getPickPath();
-    const std::vector<Step>& steps = getCurrentSteps();
+    const Steps& steps = getCurrentSteps();
     if (!path || steps.empty())
         return false;
     // From another root the places can't be told apart.

@@ -91,6 +91,6 @@ private:
     LuNode* m_pickRoot = nullptr;
     Delivery* m_delivery = nullptr; ///< Null outside of apply.
 
-    LuNodeSensor m_grabber;        ///< Attached to the grabber: it forgets one that ends.
-    std::vector<Step> m_grabSteps; ///< The way to it. Its nodes are not held, they may have ended.
+    LuNodeSensor m_grabber; ///< Attached to the grabber: it forgets one that ends.
+    Steps m_grabSteps;      ///< The way to it. Its nodes are not held, they may have ended.
 };

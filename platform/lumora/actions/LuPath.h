@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/lumora/base/LuPool.h"
+
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -64,7 +66,7 @@ private:
         LuNode* node;
         int index;
     };
-    std::vector<Step> m_steps;
+    std::vector<Step, LuPoolAllocator<Step>> m_steps;
     int m_numPublic = -1;
 };
 

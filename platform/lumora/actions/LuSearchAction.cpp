@@ -23,17 +23,8 @@ void LuSearchAction::visit(LuNode* node) {
 
 void LuSearchAction::begin() {
     m_hasPath = false;
-    m_found.clear();
     m_path.truncate(0);
     m_paths.clear();
-}
-
-void LuSearchAction::end() {
-    if (m_found.empty())
-        return;
-    m_path = makePath(m_found);
-    m_hasPath = true;
-    m_found.clear();
 }
 
 bool LuSearchAction::fits(const LuNode* node) const {
@@ -51,12 +42,7 @@ void LuSearchAction::consider(LuNode* node) {
         m_paths.append(makePath(getCurrentSteps()));
         return;
     }
-    m_found = getCurrentSteps();
-    if (m_interest == FIRST) {
-        // The path is made at once: an override of search shortens it before the traversal ends.
-        m_path = makePath(m_found);
-        m_hasPath = true;
-        m_found.clear();
-        setTerminated();
-    }
+    m_path = makePath(getCurrentSteps());
+    m_hasPath = true;
+    setTerminated();
 }

@@ -31,15 +31,28 @@ public:
     LuPathList& getPaths() { return m_paths; }
 
     /// True when the first node was found: the search is over.
-    bool isFinished() const { return hasTerminated(); }
+    bool isFinished() const { return m_interest == FIRST && hasTerminated(); }
 
     /// A node offers itself.
     void consider(LuNode* node);
 
+    /// A node offers itself and what `traverseBelow` leads to: for LAST itself last, since that search goes
+    /// backwards and ends at the first node that fits.
+    template <class Function>
+    void considerTree(LuNode* node, Function traverseBelow) {
+        if (!goesBackwards())
+            consider(node);
+        if (!hasTerminated())
+            traverseBelow();
+        if (goesBackwards())
+            consider(node);
+    }
+
+    bool goesBackwards() const override { return m_interest == LAST; }
+
 protected:
     void visit(LuNode* node) override;
     void begin() override;
-    void end() override;
 
 private:
     bool fits(const LuNode* node) const;
@@ -51,7 +64,6 @@ private:
     Interest m_interest = FIRST;
     bool m_isSearchingAll = false;
     bool m_hasPath = false;
-    std::vector<Step> m_found;
     LuPath m_path;
     LuPathList m_paths;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/lumora/base/LuObserverList.h"
+#include "platform/lumora/base/LuPool.h"
 #include "platform/lumora/base/LuType.h"
 
 #include <vector>
@@ -11,7 +12,7 @@ class LuInput;
 class LuOutput;
 
 /// Counts references. The last unref calls destroy, which deletes the object.
-class LuRefCounter : public LuTypedObject {
+class LuRefCounter : public LuTypedObject, public LuPooled {
 public:
     void ref() const { ++m_refCount; }
     void unref() const;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/lumora/base/LuObserverList.h"
 
+#include "platform/lumora/base/LuPool.h"
+
 #include <new>
 
 namespace {
@@ -27,13 +29,14 @@ std::uint32_t findFromEnds(const std::uintptr_t* list, std::uint32_t length, std
 
 LuObserverList::~LuObserverList() {
     if (isMany())
-        ::operator delete(getMany());
+        freeMany(getMany());
 }
 
 LuObserverList::Many* LuObserverList::makeMany(std::uint32_t capacity) {
-    void* memory = ::operator new(sizeof(Many) + capacity * sizeof(std::uintptr_t));
-    return new (memory) Many{0, capacity};
+    return new (LuPool::allocate(getManySize(capacity))) Many{0, capacity};
 }
+
+void LuObserverList::freeMany(Many* many) { LuPool::deallocate(many, getManySize(many->capacity)); }
 
 int LuObserverList::getLength() const {
     if (isMany())
@@ -65,7 +68,7 @@ void LuObserverList::add(LuObserver observer) {
         Many* const many = makeMany(before->capacity * 2);
         std::copy_n(before->entries(), before->length, many->entries());
         many->length = before->length;
-        ::operator delete(before);
+        freeMany(before);
         setMany(many);
     }
     Many* const many = getMany();
@@ -89,6 +92,6 @@ void LuObserverList::remove(LuObserver observer) {
         entries[index] = entries[many->length - 1];
     if (--many->length == 1) {
         m_bits = entries[0];
-        ::operator delete(many);
+        freeMany(many);
     }
 }

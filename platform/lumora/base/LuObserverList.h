@@ -94,7 +94,11 @@ private:
     bool isMany() const { return (m_bits & MANY) == MANY; }
     Many* getMany() const { return reinterpret_cast<Many*>(m_bits & ~MANY); }
     void setMany(Many* many) { m_bits = reinterpret_cast<std::uintptr_t>(many) | MANY; }
+    static std::size_t getManySize(std::uint32_t capacity) {
+        return sizeof(Many) + capacity * sizeof(std::uintptr_t);
+    }
     static Many* makeMany(std::uint32_t capacity);
+    static void freeMany(Many* many);
 
     template <class Function>
     void callEach(const std::uintptr_t* bits, int length, Function& function) const {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/lumora/base/LuPool.h"
 #include "platform/lumora/base/LvString.h"
 
 #include <vector>
 
 /// A list of pointers. It owns nothing.
-class LvPList {
+class LvPList : public LuPooled {
 public:
     void append(void* item) { m_items.push_back(item); }
 

@@ -10,8 +10,10 @@ namespace {
 
 constexpr char32_t REPLACEMENT = 0xFFFD;
 
+bool isAscii(unsigned char byte) { return byte < 0x80; }
+
 int sequenceLength(unsigned char lead) {
-    if (lead < 0x80)
+    if (isAscii(lead))
         return 1;
     if (lead >= 0xC2 && lead < 0xE0)
         return 2;
@@ -70,6 +72,11 @@ float getExtreme(std::string_view word) {
 } // namespace
 
 char32_t LuUtf8::next(std::string_view text, std::size_t& position) {
+    const auto lead = static_cast<unsigned char>(text[position]);
+    if (isAscii(lead)) {
+        ++position;
+        return lead;
+    }
     char32_t character = 0;
     int length = 0;
     if (!decode(text, position, character, length)) {
@@ -141,6 +148,8 @@ LvString LvString::fromWide(std::wstring_view text) {
 }
 
 std::string LvString::toLatin1() const {
+    if (std::all_of(m_text.begin(), m_text.end(), isAscii))
+        return m_text;
     std::string result;
     result.reserve(m_text.size());
     for (std::size_t position = 0; position < m_text.size();) {

@@ -198,9 +198,10 @@ void LuBaseKit::handleEvent(LuHandleEventAction* action) {
 }
 
 void LuBaseKit::search(LuSearchAction* action) {
-    LuNode::search(action);
-    if (searchingChildren && !action->hasTerminated())
-        doAction(action);
+    action->considerTree(this, [&] {
+        if (searchingChildren)
+            doAction(action);
+    });
 }
 
 void LuBaseKit::internalAddChild(LuNode* child) { m_children.append(child); }

@@ -55,12 +55,13 @@ bool isMotion(const LuEvent* event) {
 
 } // namespace
 
-struct LuDragger::Callbacks {
+struct LuDragger::Callbacks : LuPooled {
     struct Entry {
         LuDraggerFunction function;
         void* data;
     };
-    std::array<std::vector<Entry>, 3> lists; ///< By Kind.
+    using Entries = std::vector<Entry, LuPoolAllocator<Entry>>;
+    std::array<Entries, 3> lists; ///< By Kind.
 };
 
 /// What is known from the press on.
@@ -201,7 +202,7 @@ void LuDragger::call(LuHandleEventAction* action, std::size_t kind, std::shared_
     for (int i = 0; i < drag->below.getLength(); ++i)
         occasion.pickPath.append(drag->below.getNode(i), drag->below.getIndex(i));
     Occasion* const outer = std::exchange(m_occasion, &occasion);
-    const std::vector<Callbacks::Entry>& list = m_callbacks->lists[kind];
+    const Callbacks::Entries& list = m_callbacks->lists[kind];
     const std::size_t count = list.size();
     for (std::size_t i = 0; i < count; ++i) {
         // The drag may have ended meanwhile, by an event within this one.

@@ -82,6 +82,13 @@ void LuChildList::truncate(int length) {
 
 void LuChildList::traverse(LuAction* action, int first, int last) const {
     // A traversal may build what it meets, so the length is read anew each time.
+    if (action->goesBackwards()) {
+        for (int i = last; i >= first && !action->hasTerminated(); --i) {
+            if (LuNode* const child = get(i))
+                action->traverseChild(child, i);
+        }
+        return;
+    }
     for (int i = first; i <= last && i < getLength() && !action->hasTerminated(); ++i)
         action->traverseChild(m_children[static_cast<std::size_t>(i)], i);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/lumora/base/LuPool.h"
+
 #include <vector>
 
 class LuAction;
@@ -33,8 +35,8 @@ public:
     void remove(int index);
     void truncate(int length);
 
-    /// Lets the action traverse the children from `first` to `last`, both included, as its path asks: all of
-    /// them, or, towards the path, only those that matter to it.
+    /// Lets the action traverse the children from `first` to `last`, both included, in its direction, and as
+    /// its path asks: all of them, or, towards the path, only those that matter to it.
     void traverse(LuAction* action, int first, int last) const;
     void traverse(LuAction* action) const { traverse(action, 0, getLength() - 1); }
 
@@ -42,5 +44,5 @@ private:
     void connect(LuNode* child);
 
     LuNode* m_owner;
-    std::vector<LuNode*> m_children;
+    std::vector<LuNode*, LuPoolAllocator<LuNode*>> m_children;
 };

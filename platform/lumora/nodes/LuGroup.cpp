@@ -30,9 +30,7 @@ void LuGroup::getMatrix(LuGetMatrixAction* action) {
 }
 
 void LuGroup::search(LuSearchAction* action) {
-    LuNode::search(action);
-    if (!action->hasTerminated())
-        doAction(action);
+    action->considerTree(this, [&] { doAction(action); });
 }
 
 LuSeparator::LuSeparator() { LuNodeConstructor constructor(s_class, this); }
@@ -69,11 +67,10 @@ void LuSwitch::doAction(LuAction* action) {
 }
 
 void LuSwitch::search(LuSearchAction* action) {
-    LuNode::search(action);
-    if (action->hasTerminated())
-        return;
-    if (action->isSearchingAll())
-        LuGroup::doAction(action);
-    else
-        doAction(action);
+    action->considerTree(this, [&] {
+        if (action->isSearchingAll())
+            LuGroup::doAction(action);
+        else
+            doAction(action);
+    });
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/lumora/base/LuPool.h"
+
 class LuBase;
 class LuField;
 class LuSensor;
@@ -10,7 +12,7 @@ struct LuNotification;
 using LuSensorFunction = void (*)(void* data, LuSensor* sensor);
 
 /// Calls a function when something happens. `data` stays the caller's.
-class LuSensor {
+class LuSensor : public LuPooled {
 public:
     LuSensor(LuSensorFunction function, void* data) : m_function(function), m_data(data) {}
     virtual ~LuSensor() = default;

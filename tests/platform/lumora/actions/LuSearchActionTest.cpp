@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "platform/lumora/actions/LuGetMatrixAction.h"
 #include "platform/lumora/actions/LuSearchAction.h"
+#include "platform/lumora/actions/LuGetMatrixAction.h"
 #include "platform/lumora/nodes/LuGroup.h"
 #include "platform/lumora/nodes/LuShapes.h"
 #include "platform/lumora/nodes/LuTransforms.h"
@@ -44,6 +44,36 @@ TEST_F(SearchTest, LastGivesTheLastThatShows) {
     EXPECT_EQ(action.getPath()->getIndex(1), 1);
     EXPECT_EQ(action.getPath()->getIndex(2), 1);
     EXPECT_FALSE(action.isFinished());
+}
+
+TEST_F(SearchTest, LastComesBackToTheGroupWhereNothingBelowItFits) {
+    auto* const outer = new LuGroup;
+    auto* const inner = new LuSeparator;
+    outer->addChild(new LuCube);
+    outer->addChild(inner);
+    inner->addChild(new LuCube);
+    root->addChild(outer);
+    root->addChild(new LuCube);
+    action.setType(LuSeparator::getClassTypeId());
+    action.setInterest(LuSearchAction::LAST);
+    action.apply(root.get());
+    ASSERT_NE(action.getPath(), nullptr);
+    EXPECT_EQ(action.getPath()->getTail(), inner);
+    EXPECT_EQ(action.getPath()->getLength(), 3);
+    action.setType(LuSphere::getClassTypeId());
+    action.apply(root.get());
+    EXPECT_EQ(action.getPath(), nullptr);
+}
+
+TEST_F(SearchTest, LastLooksBehindSwitchesOnlyWhereAsked) {
+    action.setNode(hidden);
+    action.setInterest(LuSearchAction::LAST);
+    action.apply(root.get());
+    EXPECT_EQ(action.getPath(), nullptr);
+    action.setSearchingAll(true);
+    action.apply(root.get());
+    ASSERT_NE(action.getPath(), nullptr);
+    EXPECT_EQ(action.getPath()->getTail(), hidden);
 }
 
 TEST_F(SearchTest, AllGivesEveryPathInOrder) {
