@@ -45,7 +45,11 @@ void LuControl::placeChild(HWND child, const LvVec2i32& position, const LvVec2i3
 }
 
 void LuControl::showChild(HWND child, bool isShown) {
-    if (existWidget(child))
+    if (!existWidget(child))
+        return;
+    // To the system a window that shows already is as much work as one that doesn't.
+    const bool isVisible = (GetWindowLongPtrA(child, GWL_STYLE) & WS_VISIBLE) != 0;
+    if (isVisible != isShown)
         ShowWindow(child, isShown ? SW_SHOW : SW_HIDE);
 }
 
@@ -62,7 +66,7 @@ void LuControl::setChildText(HWND child, const LvString& text) {
 
 void LuControl::enableChild(HWND child, bool isAllowed) {
     if (existWidget(child))
-        EnableWindow(child, isAllowed && enable.getValue());
+        LuWin::enableWindow(child, isAllowed && enable.getValue());
 }
 
 void LuControl::getContentPlace(LvVec2i32& position, LvVec2i32& size) const {

@@ -46,8 +46,13 @@ void LuPanelix::set3DParentTranslation(LvVec3f& translation) {
 void LuPanelix::setLook3D(int pickStyle, bool isEnabled) {
     if (!m_pickStyle)
         return;
-    m_pickStyle->style.setValue(pickStyle);
-    m_material->emissiveColor.setValue(isEnabled ? LvColor() : DISABLED_GLOW);
+    // Each container above says so when it is built; once is enough.
+    if (m_pickStyle->style.isDefault() || m_pickStyle->style.getValue() != pickStyle)
+        m_pickStyle->style.setValue(pickStyle);
+    const LvColor glow = isEnabled ? LvColor() : DISABLED_GLOW;
+    LuMFColor& emissive = m_material->emissiveColor;
+    if (emissive.isDefault() || emissive.getNum() != 1 || emissive[0] != glow)
+        emissive.setValue(glow);
 }
 
 void LuPanelix::change3DEnable() {

@@ -2,6 +2,7 @@
 #include "layout/LuDialogComponent.h"
 
 #include "layout/LuDialogGroup.h"
+#include "platform/lumora/win/LuWin.h"
 
 LU_KIT_SOURCE(LuDialogComponent, LuTopComponent, "DialogComponent")
 
@@ -161,13 +162,13 @@ void LuDialogComponent::updateFromSensor(LuSensor* sensor) {
 }
 
 void LuDialogComponent::changeEnable() {
-    EnableWindow(m_widget, enable.getValue());
+    LuWin::enableWindow(m_widget, enable.getValue());
     if (m_parent && m_parent->isDialogGroup())
         static_cast<LuDialogGroup*>(m_parent)->childEnableChanged(this);
 }
 
 void LuDialogComponent::changeWidgetEnable(int isEnabled) {
-    EnableWindow(m_widget, isEnabled ? enable.getValue() : 0);
+    LuWin::enableWindow(m_widget, isEnabled && enable.getValue());
 }
 
 void LuDialogComponent::changeWidth() { m_sizes.takeSize(0); }

@@ -83,7 +83,7 @@ void LuDialogComponent::createComponentWidget(HWND parent) {
     SetWindowLongPtrA(m_widget, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     if (isDialogGroup())
         SendMessageA(m_widget, WM_CREATE, 0, 0);
-    EnableWindow(m_widget, enable.getValue());
+    LuWin::enableWindow(m_widget, enable.getValue());
 }
 
 void LuDialogComponent::eventNotify(unsigned int, std::uint64_t) {}

@@ -183,8 +183,8 @@ void LuTopLevelDialog::changeModalFrame() {
 }
 
 void LuTopLevelDialog::changeEnable() {
-    EnableWindow(m_baseWidget, enable.getValue());
-    EnableWindow(m_topWidget, enable.getValue());
+    LuWin::enableWindow(m_baseWidget, enable.getValue());
+    LuWin::enableWindow(m_topWidget, enable.getValue());
 }
 
 void LuTopLevelDialog::changeLabel() { LuWin::setWindowText(m_baseWidget, label.getValue()); }

@@ -53,7 +53,6 @@ HWND makeCarrier(HWND parent, bool group, const RECT& place) {
     SetWindowLongPtrA(carrier, GWLP_USERDATA, 1);
     if (group)
         SendMessageA(carrier, WM_CREATE, 0, 0);
-    EnableWindow(carrier, TRUE);
     SetWindowPos(carrier, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_DEFERERASE);
     return carrier;
@@ -73,11 +72,8 @@ void makeLabel(HWND carrier) {
     const HWND label = CreateWindowExW(0, L"STATIC", L"", WS_CHILD | WS_CLIPCHILDREN, 0, 0, 0, 0, carrier,
                                        nullptr, instance(), nullptr);
     setFont(label);
-    ShowWindow(label, SW_HIDE);
     ShowWindow(label, SW_SHOW);
-    EnableWindow(label, TRUE);
     SetWindowPos(label, nullptr, 3, (buttonHeight - 3) / 2 + 3, 0, 0, SWP_DEFERERASE);
-    ShowWindow(label, SW_SHOW);
 }
 
 void makeButton(HWND carrier, const std::string& text) {
@@ -89,7 +85,6 @@ void makeButton(HWND carrier, const std::string& text) {
         SetWindowLongPtrA(button, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(buttonProcedure)));
     SetWindowLongPtrA(button, GWLP_USERDATA, 1);
     setFont(button);
-    EnableWindow(button, TRUE);
     SetWindowPos(button, nullptr, 5, 3, buttonWidth - 8, buttonHeight - 6, SWP_DEFERERASE);
 }
 

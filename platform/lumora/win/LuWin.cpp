@@ -193,6 +193,11 @@ bool LuWin::waitForMessages() {
     return processMessages();
 }
 
+void LuWin::enableWindow(HWND window, bool isEnabled) {
+    if ((IsWindowEnabled(window) != FALSE) != isEnabled)
+        EnableWindow(window, isEnabled);
+}
+
 void LuWin::setWindowText(HWND window, const LvString& text) {
     SetWindowTextW(window, text.toWide().c_str());
 }

@@ -57,6 +57,10 @@ public:
     /// Takes the place of the message box; null brings it back. `data` stays the caller's.
     static void setErrorDialogHandler(ErrorDialogHandler handler, void* data);
 
+    /// Lets a window take input, or not. One that does so already is left alone: each telling costs a call of
+    /// the system's server, and a dialog tells each of its controls several times.
+    static void enableWindow(HWND window, bool isEnabled);
+
     /// Shows a window, in front and active; hides a window. An invalid handle does nothing.
     static void show(HWND window);
     static void hide(HWND window);
