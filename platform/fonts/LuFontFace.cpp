@@ -14,6 +14,16 @@ namespace {
 class Faces {
 public:
     const LuFontFace* find(std::string_view family) {
+        // One text after the other has the same.
+        if (m_last && m_lastName == family)
+            return m_last;
+        m_last = findByName(family);
+        m_lastName = family;
+        return m_last;
+    }
+
+private:
+    const LuFontFace* findByName(std::string_view family) {
         const auto place = m_byName.find(family);
         if (place != m_byName.end())
             return place->second;
@@ -22,7 +32,6 @@ public:
         return face;
     }
 
-private:
     const LuFontFace* open(std::string_view family) {
         const std::string name(family);
         bool isExact = false;
@@ -42,6 +51,8 @@ private:
         return face.get();
     }
 
+    std::string m_lastName;
+    const LuFontFace* m_last = nullptr;
     LuBoxFontSource m_boxes;
     std::map<std::string, const LuFontFace*, std::less<>> m_byName;
     std::map<LuFontSource*, std::unique_ptr<LuCachedFontFace>> m_bySource;

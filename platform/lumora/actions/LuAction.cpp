@@ -110,6 +110,17 @@ LuAction::PathCode LuAction::usePathCode(int& numIndices, const int*& indices) {
 }
 
 void LuAction::traverseChild(LuNode* child, int index) {
+    // Mostly there is no path to compare with, and this is what each visit of a node costs.
+    if (!m_keepsSteps && (m_pathCode == PathCode::NO_PATH || m_pathCode == PathCode::BELOW_PATH)) {
+        child->noteVisit();
+        visit(child);
+        return;
+    }
+    visitChild(child, index);
+}
+
+/// Apart, so that the short way above saves no registers for the long one.
+[[gnu::noinline]] void LuAction::visitChild(LuNode* child, int index) {
     const PathCode before = m_pathCode;
     bool isOnPath = false;
     if (before == PathCode::IN_PATH) {
@@ -119,8 +130,14 @@ void LuAction::traverseChild(LuNode* child, int index) {
         isOnPath = index == pathIndex && m_path->getNode(m_pathDepth + 1) == child;
         m_pathCode = isOnPath ? codeAt(++m_pathDepth) : PathCode::OFF_PATH;
     }
-    if (m_pathCode != PathCode::OFF_PATH || child->affectsState())
-        visitChild(child, index);
+    if (m_pathCode != PathCode::OFF_PATH || child->affectsState()) {
+        if (m_keepsSteps)
+            m_steps.push_back({child, index});
+        child->noteVisit();
+        visit(child);
+        if (m_keepsSteps)
+            m_steps.pop_back();
+    }
     if (isOnPath)
         --m_pathDepth;
     m_pathCode = before;
@@ -128,15 +145,6 @@ void LuAction::traverseChild(LuNode* child, int index) {
 
 LuAction::PathCode LuAction::codeAt(int pathDepth) const {
     return pathDepth + 1 == m_path->getLength() ? PathCode::BELOW_PATH : PathCode::IN_PATH;
-}
-
-void LuAction::visitChild(LuNode* child, int index) {
-    if (m_keepsSteps)
-        m_steps.push_back({child, index});
-    child->noteVisit();
-    visit(child);
-    if (m_keepsSteps)
-        m_steps.pop_back();
 }
 
 LuPath LuAction::makePath(const Steps& steps) {

@@ -10,7 +10,7 @@ constexpr std::size_t JOINED_GAP = 32;
 
 } // namespace
 
-void LuDirtyRanges::mark(std::size_t begin, std::size_t end) {
+void LuDirtyRanges::markApart(std::size_t begin, std::size_t end) {
     if (!m_ranges.empty()) {
         Range& last = m_ranges.back();
         if (begin >= last.begin && begin <= last.end) {

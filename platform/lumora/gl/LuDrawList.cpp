@@ -2,18 +2,12 @@
 #include "platform/lumora/gl/LuDrawList.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
-bool isFinite(const glm::mat4& matrix) {
-    for (int column = 0; column < 4; ++column) {
-        for (int row = 0; row < 4; ++row) {
-            if (!std::isfinite(matrix[column][row]))
-                return false;
-        }
-    }
-    return true;
+/// Of a number that is infinite or none not even the product with 0 is 0.
+bool isFinite(const glm::mat4& m) {
+    return m[0] * 0.0F + m[1] * 0.0F + m[2] * 0.0F + m[3] * 0.0F == glm::vec4(0);
 }
 
 bool isMirror(const glm::mat4& m) {
@@ -97,14 +91,13 @@ void LuDrawList::commitPieces(LuRenderChunk& chunk, std::vector<LuNewPiece>& con
     // Places are used again where the sizes allow: then a new text changes what lies beside each other.
     std::vector<LuRenderChunk::Slot> before;
     before.swap(chunk.pieces);
+    chunk.pieces.reserve(content.size());
     for (auto slot = before.rbegin(); slot != before.rend(); ++slot)
         m_reusable[slot->list].push_back(slot->index);
     for (LuNewPiece& piece : content) {
         const LuRenderRecord& record = chunk.records[piece.piece.record];
         piece.piece.record = record.entry;
-        const auto list = record.isTransparent
-                              ? TRANSPARENT_PIECES
-                              : static_cast<std::uint32_t>(LuMeshStore::getSizeClass(piece.piece.count));
+        const std::uint32_t list = record.isTransparent ? TRANSPARENT_PIECES : piece.sizeClass;
         const auto place = static_cast<std::uint32_t>(chunk.pieces.size());
         std::vector<std::uint32_t>& reusable = m_reusable[list];
         if (reusable.empty()) {
@@ -115,6 +108,8 @@ void LuDrawList::commitPieces(LuRenderChunk& chunk, std::vector<LuNewPiece>& con
             reusable.pop_back();
         }
     }
+    if (before.empty())
+        return;
     before.clear();
     for (std::uint32_t list = 0; list <= TRANSPARENT_PIECES; ++list) {
         for (const std::uint32_t index : m_reusable[list])

@@ -25,7 +25,7 @@ void LuGLRenderAction::visit(LuNode* node) {
 
 void LuGLRenderAction::begin() {
     m_render = {};
-    m_world = {};
+    m_part = nullptr;
 }
 
 void LuGLRenderAction::apply(LuNode* scene) {
@@ -44,6 +44,7 @@ void LuGLRenderAction::apply(LuNode* scene) {
     m_depth = 0;
     if (m_levels.empty())
         m_levels.push_back(std::make_unique<LuRenderContent>());
+    m_content = m_levels.front().get();
     OldChunks old(m_root);
     m_old = &old;
     LuAction::apply(m_scene);
@@ -67,6 +68,7 @@ void LuGLRenderAction::releaseHeld() {
 void LuGLRenderAction::pushLevel() {
     if (++m_depth == m_levels.size())
         m_levels.push_back(std::make_unique<LuRenderContent>());
+    m_content = m_levels[m_depth].get();
 }
 
 LuRenderState LuGLRenderAction::getIncomingState() const {
@@ -111,7 +113,7 @@ bool LuGLRenderAction::keep(const LuNode* node, const LuRenderCache& cache) {
     if (!place)
         return false;
     LuRenderChunk& chunk = **place;
-    const LvMatrix world = m_world * m_state.model;
+    const LvMatrix world = getWorld();
     const bool hasMoved = !(chunk.world == world);
     if (chunk.stamp != cache.get() || !(chunk.state == getIncomingState()) || (hasMoved && chunk.usesWorld)) {
         m_found = place;
@@ -128,15 +130,22 @@ bool LuGLRenderAction::keep(const LuNode* node, const LuRenderCache& cache) {
 }
 
 LuGLRenderAction::Part::Part(LuGLRenderAction& action, const LuNode* node, const LuRenderCache& cache)
-    : m_action(action), m_node(node), m_cache(cache), m_stamp(cache.get()), m_state(action.m_state),
-      m_render(action.m_render), m_world(action.m_world),
+    : m_action(action), m_node(node), m_cache(cache), m_stamp(cache.get()), m_above(action.m_part),
+      m_state(action.m_state), m_render(action.m_render),
       m_chunk(action.m_found ? std::move(*std::exchange(action.m_found, nullptr)) : nullptr),
       m_ownOld(m_chunk ? m_chunk->children : m_none), m_old(action.m_old) {
-    action.m_world = m_world * m_state.model;
+    action.m_part = this;
     action.m_state.model = {};
     if (m_chunk)
         action.m_old = &m_ownOld;
     action.pushLevel();
+}
+
+const LvMatrix& LuGLRenderAction::Part::getWorld() {
+    if (!m_isWorldKnown)
+        m_world = m_above ? m_above->getWorld() * m_state.model : m_state.model;
+    m_isWorldKnown = true;
+    return m_world;
 }
 
 bool LuGLRenderAction::Part::isWorthKeeping(const LuRenderContent& content) const {
@@ -147,12 +156,13 @@ bool LuGLRenderAction::Part::isWorthKeeping(const LuRenderContent& content) cons
 
 void LuGLRenderAction::Part::leave() {
     LuRenderContent& content = m_action.getContent();
-    --m_action.m_depth;
+    m_action.popLevel();
     LuRenderContent& above = m_action.getContent();
     above.usesWorld |= content.usesWorld;
     m_action.addCamera(content.camera);
     m_action.m_state = m_state;
     m_action.m_render = m_render;
+    m_action.m_part = m_above;
     m_action.m_old = m_old;
     if (isWorthKeeping(content)) {
         makeChunk(content, above);
@@ -161,7 +171,6 @@ void LuGLRenderAction::Part::leave() {
         if (m_chunk)
             m_action.m_list.release(*m_chunk);
     }
-    m_action.m_world = m_world;
     content.clear();
 }
 
@@ -180,7 +189,7 @@ void LuGLRenderAction::Part::makeChunk(LuRenderContent& content, LuRenderContent
     m_chunk->stamp = m_stamp;
     m_chunk->state = state;
     m_chunk->incoming = m_state.model;
-    m_chunk->world = m_action.m_world;
+    m_chunk->world = getWorld();
     list.commit(*m_chunk, content);
     m_cache.setKept();
     ++m_action.m_statistics.collectedParts;
@@ -211,7 +220,7 @@ void LuGLRenderAction::addCamera(const LuCamera* camera) {
 }
 
 void LuGLRenderAction::addClipPlane(const LvPlane& plane) {
-    const LvMatrix toWorld = m_world * m_state.model;
+    const LvMatrix toWorld = getWorld();
     // A plane is carried over by the inverse, transposed; a flattened space has no inside to cut.
     const glm::vec4 local(plane.getNormal().x, plane.getNormal().y, plane.getNormal().z,
                           -plane.getDistanceFromOrigin());
@@ -226,7 +235,7 @@ void LuGLRenderAction::addClipPlane(const LvPlane& plane) {
 }
 
 void LuGLRenderAction::addLight(const LuLight& light) {
-    const LvMatrix toWorld = m_world * m_state.model;
+    const LvMatrix toWorld = getWorld();
     LuLight placed = light;
     placed.vector =
         light.isPoint ? toWorld.transformPoint(light.vector) : toWorld.transformDirection(light.vector);
@@ -250,10 +259,8 @@ std::uint32_t LuGLRenderAction::addRecord(const LvMatrix& local, std::uint32_t f
 }
 
 void LuGLRenderAction::addPiece(std::uint32_t record, const LuMeshRange& range, float x, float y) {
-    LuNewPiece piece;
-    piece.piece = {record, range.base, range.count, x, y};
-    piece.center = range.center + LvVec3f(x, y, 0);
-    getContent().pieces.push_back(piece);
+    const LvVec3f center = range.center + LvVec3f(x, y, 0);
+    getContent().pieces.push_back({{record, range.base, range.count, x, y}, range.sizeClass, center});
 }
 
 void LuGLRenderAction::addShape(LuMeshStore::Shape shape, const LvVec3f& scale) {
@@ -272,7 +279,7 @@ void LuGLRenderAction::addMesh(LuMesh* mesh) {
 }
 
 void LuGLRenderAction::beginText(float size) {
-    m_hasTextRecord = false;
+    m_textRecord.reset();
     m_textSize = size;
 }
 
@@ -281,11 +288,10 @@ void LuGLRenderAction::addGlyph(const LuFontFace& face, char32_t character, LuMe
     const LuMeshRange& range = m_list.meshes.getGlyph(face, character, part);
     if (range.count == 0)
         return;
-    if (!m_hasTextRecord) {
+    if (!m_textRecord) {
         LvMatrix local = m_state.model;
         local.scaleBy({m_textSize, m_textSize, 1});
-        addRecord(local, 0);
-        m_hasTextRecord = true;
+        m_textRecord = addRecord(local, 0);
     }
-    addPiece(static_cast<std::uint32_t>(getContent().records.size() - 1), range, x, y);
+    addPiece(*m_textRecord, range, x, y);
 }

@@ -7,6 +7,7 @@
 #include "platform/lumora/base/LvGeometry.h"
 #include "platform/lumora/gl/LuDrawList.h"
 
+#include <optional>
 #include <unordered_map>
 
 class LuSeparator;
@@ -111,6 +112,9 @@ private:
         Part(LuGLRenderAction& action, const LuNode* node, const LuRenderCache& cache);
         void leave();
 
+        /// From its space to the world's. Few parts are asked for it.
+        const LvMatrix& getWorld();
+
     private:
         bool isWorthKeeping(const LuRenderContent& content) const;
         void makeChunk(LuRenderContent& content, LuRenderContent& above);
@@ -120,9 +124,11 @@ private:
         const LuNode* m_node;
         const LuRenderCache& m_cache;
         std::uint64_t m_stamp;
+        Part* m_above;
         LuTraversalState m_state;
         LuRenderState m_render;
         LvMatrix m_world;
+        bool m_isWorldKnown = false;
         std::unique_ptr<LuRenderChunk> m_chunk;
         std::vector<std::unique_ptr<LuRenderChunk>> m_none;
         OldChunks m_ownOld;
@@ -130,8 +136,12 @@ private:
     };
 
     bool keep(const LuNode* node, const LuRenderCache& cache);
-    LuRenderContent& getContent() { return *m_levels[m_depth]; }
+    LuRenderContent& getContent() { return *m_content; }
     void pushLevel();
+    void popLevel() { m_content = m_levels[--m_depth].get(); }
+
+    /// From the current space to the world's.
+    LvMatrix getWorld() { return m_part ? m_part->getWorld() * m_state.model : m_state.model; }
     LuRenderState getIncomingState() const;
     std::uint32_t addRecord(const LvMatrix& local, std::uint32_t flags);
     void addPiece(std::uint32_t record, const LuMeshRange& range, float x, float y);
@@ -148,12 +158,13 @@ private:
 
     // During a traversal:
     LuRenderState m_render;
-    LvMatrix m_world; ///< From the space of the innermost part to the world's.
+    Part* m_part = nullptr; ///< The innermost.
     std::vector<std::unique_ptr<LuRenderContent>> m_levels;
     std::size_t m_depth = 0;
+    LuRenderContent* m_content = nullptr; ///< Of the innermost part.
     OldChunks* m_old = nullptr;
     std::unique_ptr<LuRenderChunk>* m_found = nullptr; ///< Of the node whose Part comes next.
-    bool m_hasTextRecord = false;
+    std::optional<std::uint32_t> m_textRecord;
     float m_textSize = 0;
     std::vector<std::uint32_t> m_heldClipSets, m_heldLightSets;
 };

@@ -20,6 +20,7 @@ LuMeshRange LuMeshStore::addRange(const LuTexel* vertices, std::size_t count) {
         return range;
     // A gap of the size class takes any run of it, so that faces that change all the time need no more room.
     const int sizeClass = getSizeClass(range.count);
+    range.sizeClass = static_cast<std::uint32_t>(sizeClass);
     std::vector<std::uint32_t>& gaps = m_freeRanges[sizeClass];
     if (gaps.empty()) {
         range.base = static_cast<std::uint32_t>(m_vertices.size());
@@ -52,17 +53,18 @@ const LuMeshRange& LuMeshStore::getShape(Shape shape) {
     return range;
 }
 
-const LuMeshRange& LuMeshStore::getGlyph(const LuFontFace& face, char32_t character, GlyphPart part) {
-    const auto [place, isNew] = m_glyphs.try_emplace({&face, character, part});
+const LuMeshRange& LuMeshStore::findGlyph(const Glyph& glyph) {
+    const auto [place, isNew] = m_glyphs.try_emplace(glyph);
     if (isNew) {
         LuMeshBuilder builder;
-        if (part == GLYPH_SIDES)
-            builder.addGlyphSides(face, character);
+        if (glyph.part == GLYPH_SIDES)
+            builder.addGlyphSides(*glyph.face, glyph.character);
         else
-            builder.addGlyph(face, character, part == GLYPH_BACK);
+            builder.addGlyph(*glyph.face, glyph.character, glyph.part == GLYPH_BACK);
         const std::size_t limit = getClassSize(NUM_SIZE_CLASSES - 1);
         place->second = addRange(builder.getVertices().data(), std::min(builder.getVertices().size(), limit));
     }
+    m_known[getKnownIndex(glyph)] = {glyph, &place->second};
     return place->second;
 }
 
@@ -96,7 +98,7 @@ void LuMeshStore::removeUnused() {
         if (entry.second.users > 0)
             return false;
         for (const LuMeshRange& range : entry.second.ranges)
-            m_freeRanges[getSizeClass(range.count)].push_back(range.base);
+            m_freeRanges[range.sizeClass].push_back(range.base);
         return true;
     });
 }

@@ -5,6 +5,7 @@
 #include "platform/lumora/gl/LuTexelTable.h"
 #include "platform/lumora/nodes/LuTriangulation.h"
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <unordered_map>
@@ -15,6 +16,7 @@ class LuFontFace;
 struct LuMeshRange {
     std::uint32_t base = 0;
     std::uint32_t count = 0;
+    std::uint32_t sizeClass = 0;
     LvVec3f center; ///< Of the box round it.
 };
 
@@ -44,7 +46,11 @@ public:
 
     /// A character in em units, its origin at 0: the front at z 0, the back at z -1, the sides between them.
     /// Without vertices for a space. Kept as long as the store.
-    const LuMeshRange& getGlyph(const LuFontFace& face, char32_t character, GlyphPart part);
+    const LuMeshRange& getGlyph(const LuFontFace& face, char32_t character, GlyphPart part) {
+        const Glyph glyph{&face, character, part};
+        const KnownGlyph& known = m_known[getKnownIndex(glyph)];
+        return known.range && known.glyph == glyph ? *known.range : findGlyph(glyph);
+    }
 
     /// The faces that two stamps stand for, those of the faces and of their points; null when they are not
     /// known yet. It comes with one more user.
@@ -62,9 +68,9 @@ public:
 
 private:
     struct Glyph {
-        const LuFontFace* face;
-        char32_t character;
-        int part;
+        const LuFontFace* face = nullptr;
+        char32_t character = 0;
+        GlyphPart part = GLYPH_FRONT;
         friend bool operator==(const Glyph&, const Glyph&) = default;
     };
     struct GlyphHash {
@@ -75,13 +81,25 @@ private:
         }
     };
 
+    /// A glyph that was asked for lately, so that most characters of a text are found without hashing.
+    struct KnownGlyph {
+        Glyph glyph;
+        const LuMeshRange* range = nullptr;
+    };
+    static constexpr std::size_t NUM_KNOWN = 512; ///< All of ASCII in three parts, and more.
+    static std::size_t getKnownIndex(const Glyph& glyph) {
+        return (static_cast<std::size_t>(glyph.character) * 4 + glyph.part) % NUM_KNOWN;
+    }
+
+    const LuMeshRange& findGlyph(const Glyph& glyph);
     LuMeshRange addRange(const LuTexel* vertices, std::size_t count);
 
     std::vector<LuTexel> m_vertices;
     LuDirtyRanges m_dirty;
     std::vector<std::uint32_t> m_freeRanges[NUM_SIZE_CLASSES]; ///< Bases of gaps, by their size.
     LuMeshRange m_shapes[3];
-    std::unordered_map<Glyph, LuMeshRange, GlyphHash> m_glyphs;
+    std::unordered_map<Glyph, LuMeshRange, GlyphHash> m_glyphs; ///< Its entries stay where they are.
+    std::array<KnownGlyph, NUM_KNOWN> m_known;
     std::map<std::pair<std::uint64_t, std::uint64_t>, LuMesh> m_faces;
     bool m_hasUnused = false;
 };

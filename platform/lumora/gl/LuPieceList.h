@@ -12,7 +12,7 @@ public:
     const std::vector<LuPiece>& getPieces() const { return m_pieces; }
 
     /// The middle of a piece, in the space of its record.
-    const LvVec3f& getCenter(std::size_t index) const { return m_centers[index]; }
+    const LvVec3f& getCenter(std::size_t index) const { return m_places[index].center; }
 
     /// The new piece's index. `place` is its number among the chunk's pieces.
     std::uint32_t add(const LuNewPiece& piece, LuRenderChunk& owner, std::uint32_t place);
@@ -22,13 +22,14 @@ public:
     std::vector<LuDirtyRanges::Range> takeDirty() { return m_dirty.take(m_pieces.size()); }
 
 private:
-    struct Owner {
-        LuRenderChunk* chunk;
+    /// What the shaders don't read.
+    struct Place {
+        LuRenderChunk* owner;
         std::uint32_t place;
+        LvVec3f center;
     };
 
     std::vector<LuPiece> m_pieces;
-    std::vector<LvVec3f> m_centers;
-    std::vector<Owner> m_owners;
+    std::vector<Place> m_places; ///< As many.
     LuDirtyRanges m_dirty;
 };

@@ -38,7 +38,8 @@ struct LuRenderRecord {
 /// A piece while it is collected: its record is an index into the records collected with it.
 struct LuNewPiece {
     LuPiece piece;
-    LvVec3f center; ///< Of the piece, in the space of its record.
+    std::uint32_t sizeClass = 0; ///< Of its run of vertices.
+    LvVec3f center;              ///< Of the piece, in the space of its record.
 };
 
 /// What has been collected of a part of the scene.

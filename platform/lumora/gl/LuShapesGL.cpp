@@ -35,7 +35,8 @@ void LuText3::GLRender(LuGLRenderAction* action) {
     for (int i = 0; i < string.getNum(); ++i) {
         const LvString line = getShownLine(i);
         const std::string_view text = line.view();
-        float x = -getJustifiedPart(getAdvance(face, text));
+        const bool isMeasured = justification.getValue() != LEFT;
+        float x = -(isMeasured ? getJustifiedPart(getAdvance(face, text)) : 0.0F);
         const float y = static_cast<float>(-i) * spacing.getValue();
         for (std::size_t position = 0; position < text.size();) {
             const char32_t character = LuUtf8::next(text, position);

@@ -54,6 +54,12 @@ public:
 
     /// The index of this entry, for one more user.
     std::uint32_t acquire(const Entry& entry) {
+        for (const std::uint32_t index : m_recent) {
+            if (index < m_users.size() && m_users[index] > 0 && isAt(index, entry)) {
+                ++m_users[index];
+                return index;
+            }
+        }
         const auto [place, isNew] = m_indices.try_emplace(Key{entry}, 0);
         if (isNew) {
             place->second = m_table.add();
@@ -61,6 +67,7 @@ public:
             if (m_users.size() <= place->second)
                 m_users.resize(place->second + 1);
         }
+        m_recent[m_nextRecent++ % NUM_RECENT] = place->second;
         ++m_users[place->second];
         return place->second;
     }
@@ -90,7 +97,16 @@ private:
         std::size_t operator()(const Key& key) const { return std::hash<std::string_view>()(key.view()); }
     };
 
+    bool isAt(std::uint32_t index, const Entry& entry) const {
+        return std::memcmp(m_table.get(index), entry.data(), sizeof entry) == 0;
+    }
+
+    /// The few that the parts of a panel's controls take in turn are found without hashing.
+    static constexpr std::size_t NUM_RECENT = 4;
+
     LuTexelTable m_table{TEXELS};
     std::unordered_map<Key, std::uint32_t, Hash> m_indices;
     std::vector<std::uint32_t> m_users;
+    std::array<std::uint32_t, NUM_RECENT> m_recent{}; ///< May have gone meanwhile.
+    std::size_t m_nextRecent = 0;
 };

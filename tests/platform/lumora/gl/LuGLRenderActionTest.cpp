@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "platform/lumora/nodes/LuLights.h"
 #include "platform/lumora/nodes/LuProperties.h"
 #include "platform/lumora/nodes/LuShapes.h"
 #include "platform/lumora/nodes/LuText3.h"
 #include "platform/lumora/nodes/LuTransforms.h"
 #include "tests/platform/lumora/gl/GLTest.h"
+
+#include <limits>
 
 namespace {
 
@@ -328,6 +331,74 @@ TEST_F(LuGLRenderActionTest, manyClipPlanes_areFewerThanTheLimit) {
     apply();
     // The empty set stays.
     EXPECT_EQ(m_action.getDrawList().clipSets.getTable().getCount(), 1U);
+}
+
+TEST_F(LuGLRenderActionTest, lightInNestedParts_standsInTheWorld) {
+    LuGroup* inner = m_scene.get();
+    for (const float x : {1.0F, 10.0F, 100.0F}) {
+        auto* const place = new LuTranslation;
+        place->translation.setValue({x, 0, 0});
+        inner->addChild(place);
+        auto* const next = new LuSeparator;
+        inner->addChild(next);
+        inner = next;
+    }
+    auto* const light = new LuPointLight;
+    light->location.setValue({0, 5, 0});
+    inner->addChild(light);
+    inner->addChild(new LuCube);
+    apply();
+    LuDrawList& list = m_action.getDrawList();
+    const std::uint32_t record = list.pieces[LuMeshStore::getSizeClass(36)].getPieces()[0].record;
+    const auto lights = list.lightSets.get(static_cast<std::uint32_t>(list.records.get(record)[3].z));
+    EXPECT_EQ(lights[1].x, 111);
+    EXPECT_EQ(lights[1].y, 5);
+    EXPECT_EQ(getPlace(0), 111);
+
+    static_cast<LuTranslation*>(m_scene->getChild(0))->translation.setValue({2, 0, 0});
+    apply();
+    const auto moved = list.lightSets.get(static_cast<std::uint32_t>(list.records.get(record)[3].z));
+    EXPECT_EQ(moved[1].x, 112);
+    EXPECT_EQ(getPlace(0), 112);
+}
+
+TEST_F(LuGLRenderActionTest, partBelowSmallOnes_isKeptAtItsPlace) {
+    // The small ones are kept with the scene; what stands below them is kept by itself.
+    auto* const outer = new LuSeparator;
+    auto* const middle = new LuSeparator;
+    auto* const place = new LuTranslation;
+    place->translation.setValue({3, 0, 0});
+    auto* const shift = new LuTranslation;
+    shift->translation.setValue({20, 0, 0});
+    outer->addChild(place);
+    outer->addChild(middle);
+    middle->addChild(shift);
+    middle->addChild(makePart());
+    m_scene->addChild(outer);
+    m_scene->addChild(makePart());
+    apply();
+    EXPECT_EQ(getPlace(0), 23);
+    place->translation.setValue({4, 0, 0});
+    apply();
+    EXPECT_EQ(getStatistics().movedParts, 1);
+    EXPECT_EQ(getPlace(0), 24);
+    EXPECT_EQ(getPlace(30), 0);
+}
+
+TEST_F(LuGLRenderActionTest, placeWithoutEnd_isDrawnAsAPoint) {
+    const float endless = std::numeric_limits<float>::infinity();
+    for (const float x : {endless, std::numeric_limits<float>::quiet_NaN(), 3e38F}) {
+        auto* const part = new LuSeparator;
+        auto* const place = new LuTranslation;
+        place->translation.setValue({x, 0, 0});
+        part->addChild(place);
+        part->addChild(new LuCube);
+        m_scene->addChild(part);
+    }
+    apply();
+    EXPECT_EQ(getPlace(0), 0);
+    EXPECT_EQ(getPlace(1), 0);
+    EXPECT_EQ(getPlace(2), 3e38F);
 }
 
 TEST_F(LuGLRenderActionTest, sizeClasses_holdWhatTheyAreFor) {
