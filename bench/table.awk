@@ -63,6 +63,7 @@ END {
         compare("resize, ns per control", "panelix-resize", counts[i], "qt-resize", counts[i], 1)
     for (i = 1; i <= 3; i++)
         compare("first 3D build, ns per button", "panelix-build-3d", counts[i], "qt-load", counts[i], 0.75)
+    compare("build and first frame, ns a button", "panelix-first-frame", 1000, "qt-load", 1000, 1)
     for (i = 1; i <= 3; i++)
         compare("cold bounding box, ns per box", "panelix-bbox-cold", counts[i], "limit-bbox", counts[i], 4)
     for (i = 1; i <= 3; i++)

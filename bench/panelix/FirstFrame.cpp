@@ -78,9 +78,9 @@ int main(int argc, char** argv) {
     setenv("GALLIUM_NOOP", "1", 1);
     LuPanelix::init();
     checkDriverDrawsNothing();
-    for (const int count : bench::counts(argc, argv)) {
+    for (const int count : bench::counts(argc, argv, {100, 1000})) {
         measureFrame("panelix-first-frame", count, false);
-        measureFrame("panelix-first-frame-alone", count, true);
+        measureFrame("panelix-first-frame-built", count, true);
     }
     LuPanelix::finish();
 }
