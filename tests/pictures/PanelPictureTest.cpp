@@ -20,6 +20,36 @@ TEST_F(PanelPictureTest, panelOfTheSlateSkin_looksAsInItsPicture) {
     expectLikeReference(drawPanel(), "panel-slate");
 }
 
+int getBrightness(const LuPicture::Pixel& pixel) { return (pixel.red + pixel.green + pixel.blue) / 3; }
+
+TEST_F(PanelPictureTest, disabledButtonOfTheSlateSkin_isHatchedAndHardlyBrighter) {
+    LuPanelix::setSkin("slate");
+    const auto draw = [this](const std::string& enable) {
+        const std::string text = "TopLevelDialog { width 160 height 60 RowDialog { enable " + enable +
+                                 " DialogPushButton { labelVisibility FALSE buttonLabel \"Sage\" } } }";
+        return drawFromFront(read<LuTopLevelDialog>(text.c_str()));
+    };
+    const LuPicture enabled = draw("TRUE");
+    const LuPicture disabled = draw("FALSE");
+    ASSERT_EQ(enabled.getPixels().size(), disabled.getPixels().size());
+    const LuPicture::Pixel face = enabled.at(20, 45);
+    int numFace = 0, numSame = 0, numHatched = 0;
+    for (std::size_t i = 0; i < enabled.getPixels().size(); ++i) {
+        const int glow = getBrightness(disabled.getPixels()[i]) - getBrightness(enabled.getPixels()[i]);
+        ASSERT_GE(glow, 0);
+        // Also where the text is, which stays as readable.
+        ASSERT_LT(glow, 30);
+        if (enabled.getPixels()[i] != face)
+            continue;
+        ++numFace;
+        numSame += glow == 0 ? 1 : 0;
+        numHatched += glow > 10 ? 1 : 0;
+    }
+    ASSERT_GT(numFace, 1000);
+    EXPECT_GT(numSame, numFace / 3);
+    EXPECT_GT(numHatched, numFace / 3);
+}
+
 TEST_F(PanelPictureTest, minimisedPanel_looksAsInItsPicture) {
     auto* const dialog = read<LuTopLevelDialog>(getPanel());
     buildIn3D(dialog);
