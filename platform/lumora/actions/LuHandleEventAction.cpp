@@ -26,8 +26,13 @@ LuHandleEventAction::~LuHandleEventAction() {
 }
 
 void LuHandleEventAction::setEvent(const LuEvent* event) {
-    m_event = event;
+    takeEvent(event);
     m_isHandled = false;
+}
+
+void LuHandleEventAction::takeEvent(const LuEvent* event) {
+    m_event = event;
+    m_eventKinds = event ? LuEventKinds::of(*event) : LuEventKinds();
 }
 
 void LuHandleEventAction::setPickRoot(LuNode* root) {
@@ -49,6 +54,8 @@ bool LuHandleEventAction::apply(LuNode* root) {
     Delivery* const outer = m_delivery;
     m_delivery = &delivery;
     m_isHandled = false;
+    // It may have become another since it was set.
+    takeEvent(m_event);
     if (LuNode* const grabber = getGrabber())
         applyToGrabber(grabber);
     else
@@ -56,7 +63,7 @@ bool LuHandleEventAction::apply(LuNode* root) {
     m_delivery = outer;
     if (outer) {
         // An event within an event: the outer one goes on as if nothing had been.
-        m_event = outer->event;
+        takeEvent(outer->event);
         m_isHandled = outer->isHandled;
     }
     // The paths hold nodes, which may be the last to do so.
@@ -111,6 +118,18 @@ void LuHandleEventAction::visit(LuNode* node) {
         node->doAction(this);
     else
         node->handleEvent(this);
+}
+
+bool LuHandleEventAction::canPassOver(LuEventKinds heardBelow) {
+    // The grabber gets everything, whatever it listens to.
+    if (getGrabber())
+        return false;
+    const LuEventKinds common = heardBelow & m_eventKinds;
+    if (common.isNone())
+        return true;
+    // Picking is left to the first who asks: by its camera, and after what callbacks before it have done.
+    const bool isPickOfSameRoot = m_delivery->pick && (!m_pickRoot || m_pickRoot == m_delivery->root);
+    return common == LuEventKinds::presses() && isPickOfSameRoot && !isOnPickPath();
 }
 
 void LuHandleEventAction::setHandled() {

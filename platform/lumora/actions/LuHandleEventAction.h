@@ -3,6 +3,7 @@
 
 #include "platform/lumora/actions/LuAction.h"
 #include "platform/lumora/base/LvGeometry.h"
+#include "platform/lumora/events/LuEventKinds.h"
 #include "platform/lumora/sensors/LuSensor.h"
 
 #include <memory>
@@ -11,7 +12,8 @@ class LuEvent;
 class LuPickedPoint;
 class LuRayPickAction;
 
-/// Brings an event to the nodes of a scene, children before their draggers, until one has handled it.
+/// Brings an event to the nodes of a scene, children before their draggers, until one has handled it. Parts
+/// of the scene in which nobody listens to it are left out.
 ///
 /// A node may grab: then it alone gets all events, wherever the pointer is, until it releases them. A grabber
 /// that ends, or is no longer below the node that the action is applied to, loses them.
@@ -64,6 +66,10 @@ public:
     /// True when that way leads through the current node, in the place where it is being visited.
     bool isOnPickPath();
 
+    /// Asked by a current node whose children set nothing beyond it: true when the event is nothing to those
+    /// below, who listen to these kinds.
+    bool canPassOver(LuEventKinds heardBelow);
+
     /// The way to the current node.
     LuPath getCurrentPath() const { return makePath(getCurrentSteps()); }
 
@@ -81,12 +87,14 @@ private:
         bool isToGrabber = false;
     };
 
+    void takeEvent(const LuEvent* event);
     void applyToGrabber(LuNode* grabber);
     bool makeGrabPath(LuNode* grabber, LuPath& path) const;
     void pick();
 
     LvViewportRegion m_region;
     const LuEvent* m_event = nullptr;
+    LuEventKinds m_eventKinds;
     bool m_isHandled = false;
     LuNode* m_pickRoot = nullptr;
     Delivery* m_delivery = nullptr; ///< Null outside of apply.

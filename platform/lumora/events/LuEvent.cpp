@@ -52,3 +52,9 @@ bool LuMouseButtonEvent::isButtonPressEvent(const LuEvent* event, Button button)
 bool LuMouseButtonEvent::isButtonReleaseEvent(const LuEvent* event, Button button) {
     return isButtonEvent(event, button, UP);
 }
+
+bool LuButtonEvent::isDragButton(const LuEvent* event, State state) {
+    if (event && event->isOfType(LuTrackerButtonEvent::getClassTypeId()))
+        return static_cast<const LuTrackerButtonEvent*>(event)->getState() == state;
+    return isButtonEvent(event, LuMouseButtonEvent::BUTTON1, state);
+}

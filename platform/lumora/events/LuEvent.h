@@ -66,6 +66,10 @@ public:
     State getState() const { return m_state; }
     void setState(State state) { m_state = state; }
 
+    /// True when the event is a press or a release, as `state` says, of what drags: button 1 of the mouse, or
+    /// a tracker's button.
+    static bool isDragButton(const LuEvent* event, State state);
+
 private:
     State m_state = DOWN;
 };

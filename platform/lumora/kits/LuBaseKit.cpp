@@ -190,7 +190,13 @@ void LuBaseKit::rayPick(LuRayPickAction* action) {
     }
 }
 
+LuEventKinds LuBaseKit::getEventKindsBelow() const {
+    return m_eventKinds.get([this] { return LuNode::getEventKindsBelow(); });
+}
+
 void LuBaseKit::handleEvent(LuHandleEventAction* action) {
+    if (action->canPassOver(getEventKindsBelow()))
+        return;
     // A kit's parts set nothing beyond it.
     const LuTraversalState saved = action->getState();
     doAction(action);

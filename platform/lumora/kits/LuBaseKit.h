@@ -50,6 +50,7 @@ public:
     /// Adds a LuNodeKitDetail to each new point below the kit.
     void rayPick(LuRayPickAction* action) override;
     void handleEvent(LuHandleEventAction* action) override;
+    LuEventKinds getEventKindsBelow() const override;
     void write(LuWriteAction* action) override;
 
     /// A node that a file gives for a part goes in by setPart.
@@ -57,6 +58,8 @@ public:
 
 protected:
     LuBaseKit() : m_children(this) {}
+
+    using EventKindsOf = LuBaseKit;
 
     friend class LuKitConstructor;
 
@@ -94,6 +97,7 @@ protected:
     void invalidateCaches() override {
         m_boxCache.invalidate();
         m_renderCache.invalidate();
+        m_eventKinds.invalidate();
     }
 
     /// Picks below the kit, unless the ray misses it.
@@ -111,6 +115,7 @@ private:
 
     LuBoundingBoxCache m_boxCache;
     LuRenderCache m_renderCache;
+    mutable LuEventKindsCache m_eventKinds;
 };
 
 /// What a class of kits has once, whatever its number of instances.
@@ -162,6 +167,7 @@ public:                                                                         
     static LuType getClassTypeId() { return s_class.classTypeId; }                                           \
     LuType getTypeId() const override { return s_class.classTypeId; }                                        \
     const LuFieldData* getFieldData() const override { return luGetFieldData(s_class); }                     \
+    LU_NODE_EVENT_KINDS(Class)                                                                               \
     static LuFieldData** getFieldDataPtr() { return &s_class.fieldData; }                                    \
     static const LuNodekitCatalog* getClassNodekitCatalog() { return s_class.nodekitCatalog; }               \
     static LuNodekitCatalog** getClassNodekitCatalogPtr() { return &s_class.nodekitCatalog; }                \

@@ -39,15 +39,6 @@ namespace {
 
 enum Kind : std::size_t { START, MOTION, FINISH };
 
-/// True for button 1 of the mouse, or a tracker's button, in that state.
-bool isDragButton(const LuEvent* event, LuButtonEvent::State state) {
-    if (event->isOfType(LuTrackerButtonEvent::getClassTypeId()))
-        return static_cast<const LuTrackerButtonEvent*>(event)->getState() == state;
-    return state == LuButtonEvent::DOWN
-               ? LuMouseButtonEvent::isButtonPressEvent(event, LuMouseButtonEvent::BUTTON1)
-               : LuMouseButtonEvent::isButtonReleaseEvent(event, LuMouseButtonEvent::BUTTON1);
-}
-
 bool isMotion(const LuEvent* event) {
     return event->isOfType(LuLocation2Event::getClassTypeId()) ||
            event->isOfType(LuTrackerEvent::getClassTypeId());
@@ -86,8 +77,10 @@ LuDragger::LuDragger() { LuKitConstructor constructor(s_class, this, &initClass)
 LuDragger::~LuDragger() = default;
 
 void LuDragger::addCallback(std::size_t kind, LuDraggerFunction function, void* data) {
-    if (!m_callbacks)
+    if (!m_callbacks) {
         m_callbacks = std::make_unique<Callbacks>();
+        eventKindsChanged();
+    }
     m_callbacks->lists[kind].push_back({function, data});
 }
 
@@ -144,6 +137,10 @@ void LuDragger::GLRender(LuGLRenderAction* action) { LuInteractionKit::GLRender(
 
 void LuDragger::getBoundingBox(LuGetBoundingBoxAction* action) { LuInteractionKit::getBoundingBox(action); }
 
+LuEventKinds LuDragger::getOwnEventKinds() const {
+    return m_callbacks ? LuEventKinds::presses() : LuEventKinds();
+}
+
 void LuDragger::handleEvent(LuHandleEventAction* action) {
     if (action->getGrabber() == this) {
         drag(action);
@@ -152,7 +149,7 @@ void LuDragger::handleEvent(LuHandleEventAction* action) {
     // The innermost dragger comes first, and only one takes a press.
     LuInteractionKit::handleEvent(action);
     if (m_callbacks && !m_drag && !action->isHandled() &&
-        isDragButton(action->getEvent(), LuButtonEvent::DOWN) && action->isOnPickPath())
+        LuButtonEvent::isDragButton(action->getEvent(), LuButtonEvent::DOWN) && action->isOnPickPath())
         press(action);
 }
 
@@ -178,7 +175,7 @@ void LuDragger::drag(LuHandleEventAction* action) {
     action->setHandled();
     if (m_drag && isMotion(event)) {
         call(action, MOTION, m_drag);
-    } else if (!m_drag || isDragButton(event, LuButtonEvent::UP)) {
+    } else if (!m_drag || LuButtonEvent::isDragButton(event, LuButtonEvent::UP)) {
         // Released first: what a callback opens needs events of its own.
         const std::shared_ptr<Drag> ended = m_drag;
         action->releaseGrabber();

@@ -88,6 +88,9 @@ class LuDragger : public LuInteractionKit {
 protected:
     LuDragger();
 
+    using EventKindsOf = LuDragger;
+    LuEventKinds getOwnEventKinds() const override;
+
 private:
     struct Callbacks;
     struct Drag;

@@ -11,14 +11,27 @@ LU_NODE_SOURCE(LuEventCallback, LuNode, "EventCallback")
 LuEventCallback::LuEventCallback() { LuNodeConstructor constructor(s_class, this); }
 
 void LuEventCallback::addEventCallback(LuType eventType, LuEventCallbackFunction function, void* data) {
-    if (function)
-        m_entries.push_back({eventType, function, data});
+    if (!function)
+        return;
+    m_entries.push_back({eventType, function, data});
+    updateKinds();
 }
 
 void LuEventCallback::removeEventCallback(LuType eventType, LuEventCallbackFunction function, void* data) {
     const auto found = std::find(m_entries.begin(), m_entries.end(), Entry{eventType, function, data});
-    if (found != m_entries.end())
-        m_entries.erase(found);
+    if (found == m_entries.end())
+        return;
+    m_entries.erase(found);
+    updateKinds();
+}
+
+void LuEventCallback::updateKinds() {
+    LuEventKinds kinds;
+    for (const Entry& entry : m_entries)
+        kinds |= LuEventKinds::ofListener(entry.type);
+    if (kinds == std::exchange(m_kinds, kinds))
+        return;
+    eventKindsChanged();
 }
 
 const LuEvent* LuEventCallback::getEvent() const { return m_action ? m_action->getEvent() : nullptr; }

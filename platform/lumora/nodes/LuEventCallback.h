@@ -45,6 +45,10 @@ class LuEventCallback : public LuNode {
     bool affectsState() const override { return false; }
     void handleEvent(LuHandleEventAction* action) override;
 
+protected:
+    using EventKindsOf = LuEventCallback;
+    LuEventKinds getOwnEventKinds() const override { return m_kinds; }
+
 private:
     struct Entry {
         LuType type;
@@ -53,6 +57,9 @@ private:
         friend bool operator==(const Entry&, const Entry&) = default;
     };
 
+    void updateKinds();
+
     std::vector<Entry> m_entries;
+    LuEventKinds m_kinds; ///< Of all entries.
     LuHandleEventAction* m_action = nullptr;
 };

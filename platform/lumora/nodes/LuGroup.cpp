@@ -3,6 +3,7 @@
 
 #include "platform/lumora/actions/LuGetBoundingBoxAction.h"
 #include "platform/lumora/actions/LuGetMatrixAction.h"
+#include "platform/lumora/actions/LuHandleEventAction.h"
 #include "platform/lumora/actions/LuRayPickAction.h"
 #include "platform/lumora/actions/LuSearchAction.h"
 
@@ -49,6 +50,15 @@ void LuSeparator::rayPick(LuRayPickAction* action) {
     action->traverseCulled(this, m_boxCache, [&] { LuGroup::doAction(action); });
 }
 
+LuEventKinds LuSeparator::getEventKindsBelow() const {
+    return m_eventKinds.get([this] { return LuNode::getEventKindsBelow(); });
+}
+
+void LuSeparator::handleEvent(LuHandleEventAction* action) {
+    if (!action->canPassOver(getEventKindsBelow()))
+        LuGroup::handleEvent(action);
+}
+
 LuSwitch::LuSwitch() {
     LuNodeConstructor constructor(s_class, this);
     constructor.field("whichChild", whichChild);
@@ -73,4 +83,12 @@ void LuSwitch::search(LuSearchAction* action) {
         else
             doAction(action);
     });
+}
+
+LuEventKinds LuSwitch::getEventKindsBelow() const {
+    const int which = whichChild.getValue();
+    if (which == SHOW_ALL)
+        return LuGroup::getEventKindsBelow();
+    const LuNode* const shown = getChild(which);
+    return shown ? shown->getEventKinds() : LuEventKinds();
 }

@@ -46,8 +46,8 @@ private:
     LuChildList m_children;
 };
 
-/// A group whose children set nothing beyond it. It keeps its bounding box, and what is drawn of it, until
-/// something below changes.
+/// A group whose children set nothing beyond it. It keeps its bounding box, what is drawn of it, and which
+/// events are listened to below, until something there changes.
 class LuSeparator : public LuGroup {
     LU_NODE_HEADER(LuSeparator)
 
@@ -58,18 +58,23 @@ class LuSeparator : public LuGroup {
     void GLRender(LuGLRenderAction* action) override;
     void getBoundingBox(LuGetBoundingBoxAction* action) override;
     void rayPick(LuRayPickAction* action) override;
+    void handleEvent(LuHandleEventAction* action) override;
+    LuEventKinds getEventKindsBelow() const override;
 
     const LuRenderCache& getRenderCache() const { return m_renderCache; }
 
 protected:
+    using EventKindsOf = LuSeparator;
     void invalidateCaches() override {
         m_boxCache.invalidate();
         m_renderCache.invalidate();
+        m_eventKinds.invalidate();
     }
 
 private:
     LuBoundingBoxCache m_boxCache;
     LuRenderCache m_renderCache;
+    mutable LuEventKindsCache m_eventKinds;
 };
 
 /// A group that shows one child, all, or none.
@@ -85,4 +90,5 @@ class LuSwitch : public LuGroup {
 
     void doAction(LuAction* action) override;
     void search(LuSearchAction* action) override;
+    LuEventKinds getEventKindsBelow() const override;
 };

@@ -35,6 +35,30 @@ void LuNode::rayPick(LuRayPickAction* action) { doAction(action); }
 
 void LuNode::handleEvent(LuHandleEventAction* action) { doAction(action); }
 
+LuEventKinds LuNode::getEventKinds() const {
+    // Those above keep the answer.
+    noteVisit();
+    const LuEventKinds own = tellsEventKinds() ? getOwnEventKinds() : LuEventKinds::all();
+    return own | getEventKindsBelow();
+}
+
+LuEventKinds LuNode::getEventKindsBelow() const {
+    noteVisit();
+    LuEventKinds kinds;
+    const LuChildList* const children = getChildren();
+    const int length = children ? children->getLength() : 0;
+    for (int i = 0; i < length; ++i)
+        kinds |= children->get(i)->getEventKinds();
+    return kinds;
+}
+
+void LuNode::eventKindsChanged() {
+    // Nothing has changed for sensors.
+    const bool wasEnabled = enableNotify(false);
+    startNotify();
+    enableNotify(wasEnabled);
+}
+
 void LuNode::search(LuSearchAction* action) { action->consider(this); }
 
 bool LuNode::isEqual(const LuNode& other) const {

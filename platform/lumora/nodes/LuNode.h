@@ -2,7 +2,11 @@
 #pragma once
 
 #include "platform/lumora/base/LvThread.h"
+#include "platform/lumora/events/LuEventKinds.h"
 #include "platform/lumora/fields/LuFields.h"
+
+#include <type_traits>
+#include <typeinfo>
 
 class LuAction;
 class LuChildList;
@@ -37,7 +41,17 @@ public:
     virtual void search(LuSearchAction* action);
     virtual void write(LuWriteAction* action);
     virtual void rayPick(LuRayPickAction* action);
+
+    /// Separators and kits leave out what is below them when nobody there listens to the event, or when only
+    /// draggers do and the pointer is on something else. A class that overrides this is taken to listen to
+    /// everything, unless it says more by getOwnEventKinds.
     virtual void handleEvent(LuHandleEventAction* action);
+
+    /// The kinds of events that the node, and what it shows below, listen to.
+    LuEventKinds getEventKinds() const;
+
+    /// The same of what is below it alone.
+    virtual LuEventKinds getEventKindsBelow() const;
 
     /// The node, which had grabbed all events, gets them no more.
     virtual void grabEnded() {}
@@ -54,7 +68,38 @@ public:
 
 protected:
     LuNode() = default;
+
+    /// Names the class up to whose handleEvent getOwnEventKinds is right. A class that overrides both says
+    /// `using EventKindsOf = ` and its own name.
+    using EventKindsOf = LuNode;
+
+    /// The kinds of events that the node's own handleEvent does more with than to hand them on. It calls
+    /// eventKindsChanged when they change.
+    virtual LuEventKinds getOwnEventKinds() const { return {}; }
+
+    /// False for a class whose handleEvent getOwnEventKinds doesn't know of.
+    virtual bool tellsEventKinds() const { return false; }
+
+    /// Makes all above forget what they have kept of this node.
+    void eventKindsChanged();
 };
+
+/// The class in which an operation is declared.
+template <class Operation>
+struct LuDeclaring {
+    using Type = void;
+};
+template <class Class>
+struct LuDeclaring<void (Class::*)(LuHandleEventAction*)> {
+    using Type = Class;
+};
+
+/// In each class of nodes. One that comes without it, below one that has it, isn't known: it tells nothing.
+#define LU_NODE_EVENT_KINDS(Class)                                                                           \
+    bool tellsEventKinds() const override {                                                                  \
+        using Declaring = LuDeclaring<decltype(&Class::handleEvent)>::Type;                                  \
+        return std::is_same_v<Declaring, EventKindsOf> && typeid(*this) == typeid(Class);                    \
+    }
 
 /// What a class of nodes has once, whatever its number of instances.
 struct LuNodeClass {
@@ -96,6 +141,7 @@ public:                                                                         
     static LuTypedObject* createInstance() { return new Class; }                                             \
     LuType getTypeId() const override { return s_class.classTypeId; }                                        \
     const LuFieldData* getFieldData() const override { return s_class.fieldData; }                           \
+    LU_NODE_EVENT_KINDS(Class)                                                                               \
                                                                                                              \
 private:                                                                                                     \
     static LuNodeClass s_class;                                                                              \
