@@ -2,6 +2,7 @@
 #include "platform/lumora/base/LuPool.h"
 
 #include <array>
+#include <cstdint>
 #include <new>
 #include <utility>
 
@@ -24,28 +25,86 @@ namespace {
 
 constexpr std::size_t STEP = 16; ///< All sizes are multiples of it, and with them all addresses.
 constexpr std::size_t LARGEST = 512;
-constexpr std::size_t CHUNK = 64 * 1024;
+constexpr std::size_t SLAB = 16 * 1024;     ///< A power of two, to which slabs are aligned.
+constexpr std::size_t REGION = 1024 * 1024; ///< What the allocator is asked for at once.
 
-struct Free {
-    Free* next;
+struct Block {
+    Block* next;
 };
 
-/// What was given back, by size, the latest first: it is still in the processor's cache.
-std::array<Free*, LARGEST / STEP + 1> s_free{};
+/// Blocks of one size. One that has become empty starts anew from its front: what is made after a dialog has
+/// gone lies in a row again, and not where the dialog's parts happened to be given back.
+struct alignas(STEP) Slab {
+    Slab* previous;
+    Slab* next;
+    Block* free;
+    std::uint32_t blockSize;
+    std::uint32_t used; ///< Blocks that are taken.
+    std::uint32_t end;  ///< Behind the blocks that have been taken so far, from the slab's front.
 
-/// The rest of the chunk that is being cut up. What is left of the one before is too small to be missed.
-std::byte* s_rest = nullptr;
-std::size_t s_restSize = 0;
+    bool isFull() const { return !free && end + blockSize > SLAB; }
+    void* take();
+    void giveBack(void* memory);
+};
 
-std::size_t getIndex(std::size_t size) { return (size + STEP - 1) / STEP; }
+void* Slab::take() {
+    ++used;
+    if (free)
+        return std::exchange(free, free->next);
+    return reinterpret_cast<std::byte*>(this) + std::exchange(end, end + blockSize);
+}
 
-void* cut(std::size_t size) {
-    if (s_restSize < size) {
-        s_rest = static_cast<std::byte*>(::operator new(CHUNK));
-        s_restSize = CHUNK;
+void Slab::giveBack(void* memory) {
+    free = new (memory) Block{free};
+    if (--used > 0)
+        return;
+    free = nullptr;
+    end = sizeof(Slab);
+}
+
+/// A list in which what comes first is used first.
+struct SlabList {
+    Slab* first = nullptr;
+
+    void add(Slab* slab) {
+        slab->previous = nullptr;
+        slab->next = first;
+        if (first)
+            first->previous = slab;
+        first = slab;
     }
-    s_restSize -= size;
-    return std::exchange(s_rest, s_rest + size);
+    void remove(Slab* slab) {
+        (slab->previous ? slab->previous->next : first) = slab->next;
+        if (slab->next)
+            slab->next->previous = slab->previous;
+    }
+};
+
+/// By size, those with room; and the empty ones, which take any size.
+std::array<SlabList, LARGEST / STEP + 1> s_open;
+SlabList s_empty;
+
+void addRegion() {
+    auto* const region = static_cast<std::byte*>(::operator new(REGION, std::align_val_t(SLAB)));
+    for (std::size_t end = REGION; end > 0; end -= SLAB)
+        s_empty.add(new (region + end - SLAB) Slab{});
+}
+
+Slab* open(std::size_t index) {
+    if (!s_empty.first)
+        addRegion();
+    Slab* const slab = s_empty.first;
+    s_empty.remove(slab);
+    slab->blockSize = static_cast<std::uint32_t>(index * STEP);
+    slab->end = sizeof(Slab);
+    s_open[index].add(slab);
+    return slab;
+}
+
+std::size_t getIndex(std::size_t size) { return size == 0 ? 1 : (size + STEP - 1) / STEP; }
+
+Slab* findSlab(void* memory) {
+    return reinterpret_cast<Slab*>(reinterpret_cast<std::uintptr_t>(memory) & ~std::uintptr_t{SLAB - 1});
 }
 
 } // namespace
@@ -54,11 +113,11 @@ void* LuPool::allocate(std::size_t size) {
     if (size > LARGEST)
         return ::operator new(size);
     const std::size_t index = getIndex(size);
-    if (Free* const free = s_free[index]) {
-        s_free[index] = free->next;
-        return free;
-    }
-    return cut(index * STEP);
+    Slab* const slab = s_open[index].first ? s_open[index].first : open(index);
+    void* const memory = slab->take();
+    if (slab->isFull())
+        s_open[index].remove(slab);
+    return memory;
 }
 
 void LuPool::deallocate(void* memory, std::size_t size) {
@@ -66,8 +125,19 @@ void LuPool::deallocate(void* memory, std::size_t size) {
         ::operator delete(memory);
         return;
     }
-    if (memory)
-        s_free[getIndex(size)] = new (memory) Free{s_free[getIndex(size)]};
+    if (!memory)
+        return;
+    Slab* const slab = findSlab(memory);
+    SlabList& list = s_open[getIndex(size)];
+    const bool wasFull = slab->isFull();
+    slab->giveBack(memory);
+    if (slab->used == 0) {
+        if (!wasFull)
+            list.remove(slab);
+        s_empty.add(slab);
+    } else if (wasFull) {
+        list.add(slab);
+    }
 }
 
 #endif

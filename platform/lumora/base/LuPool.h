@@ -6,7 +6,7 @@
 /// Memory for the many small objects of a scene: nodes, sensors, actions, and lists of them. A control has a
 /// hundred of them, and taking one from here costs a few instructions.
 ///
-/// What is given back is kept for the next of its size, and goes with the process. For the one thread that
+/// What is given back is kept for what comes next, and goes with the process. For the one thread that
 /// owns the scene. With the address sanitizer the memory is the allocator's, so that it sees each object.
 class LuPool {
 public:
