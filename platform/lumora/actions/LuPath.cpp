@@ -52,8 +52,8 @@ LuPath LuPath::find(LuNode* from, const LuNode* to) {
     return path;
 }
 
-/// Goes on from the path's end by `node`; true when the target was found at it or below. Otherwise the path is
-/// as before.
+/// Goes on from the path's end by `node`; true when the target was found at it or below. Otherwise the path
+/// is as before.
 bool LuPath::extendTo(LuNode* node, int index, const LuNode* target) {
     append(node, index);
     if (node == target)
