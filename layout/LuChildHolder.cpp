@@ -173,6 +173,7 @@ void LuChildHolder<Base, Child>::applyAuditor(LuPanelix* component) {
 
 template <class Base, class Child>
 void LuChildHolder<Base, Child>::search(LuSearchAction* action) {
+    // A search for the last node gives the whole way to it; the others end at a component.
     if (action->goesBackwards() || !LuBaseKit::searchingChildren) {
         Base::search(action);
         return;

@@ -42,6 +42,7 @@ void LuSearchAction::consider(LuNode* node) {
         m_paths.append(makePath(getCurrentSteps()));
         return;
     }
+    // The path is made at once: an override of search shortens it before the traversal ends.
     m_path = makePath(getCurrentSteps());
     m_hasPath = true;
     setTerminated();
