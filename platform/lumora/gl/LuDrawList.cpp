@@ -2,6 +2,7 @@
 #include "platform/lumora/gl/LuDrawList.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -17,12 +18,21 @@ bool isMirror(const glm::mat4& m) {
     return x.cross(y).dot(z) < 0;
 }
 
+/// Moves what lies in `from` behind the first `count` to the end of `to`.
+template <class Entry>
+void moveBehind(std::vector<Entry>& from, std::size_t count, std::vector<Entry>& to) {
+    const auto begin = from.begin() + static_cast<std::ptrdiff_t>(count);
+    to.insert(to.end(), std::make_move_iterator(begin), std::make_move_iterator(from.end()));
+    from.erase(begin, from.end());
+}
+
 } // namespace
 
 LuDrawList::LuDrawList() {
     // Entry 0 of these is the empty set, and stays.
     clipSets.acquire({});
     lightSets.acquire({});
+    pieces[TRANSPARENT_PIECES].keepCenters();
 }
 
 std::uint32_t LuDrawList::acquireMaterial(const LuSurface& surface) {
@@ -74,7 +84,7 @@ void LuDrawList::releaseUsers(const LuRenderRecord& record) {
     lightSets.release(record.lightSet);
 }
 
-void LuDrawList::commitRecords(LuRenderChunk& chunk, std::vector<LuRenderRecord>& content) {
+void LuDrawList::commitRecords(LuRenderChunk& chunk, std::span<LuRenderRecord> content) {
     const std::size_t before = chunk.records.size();
     for (std::size_t i = 0; i < content.size(); ++i)
         content[i].entry = i < before ? chunk.records[i].entry : records.add();
@@ -87,26 +97,29 @@ void LuDrawList::commitRecords(LuRenderChunk& chunk, std::vector<LuRenderRecord>
         writeRecord(record, chunk.world);
 }
 
-void LuDrawList::commitPieces(LuRenderChunk& chunk, std::vector<LuNewPiece>& content) {
+std::uint32_t LuDrawList::takePlace(std::uint32_t list) {
+    std::vector<std::uint32_t>& reusable = m_reusable[list];
+    if (reusable.empty())
+        return pieces[list].add();
+    const std::uint32_t index = reusable.back();
+    reusable.pop_back();
+    return index;
+}
+
+void LuDrawList::commitPieces(LuRenderChunk& chunk, std::span<const LuNewPiece> content,
+                              std::size_t firstRecord) {
     // Places are used again where the sizes allow: then a new text changes what lies beside each other.
-    std::vector<LuRenderChunk::Slot> before;
+    LuRenderChunk::Slots before;
     before.swap(chunk.pieces);
     chunk.pieces.reserve(content.size());
     for (auto slot = before.rbegin(); slot != before.rend(); ++slot)
         m_reusable[slot->list].push_back(slot->index);
-    for (LuNewPiece& piece : content) {
-        const LuRenderRecord& record = chunk.records[piece.piece.record];
-        piece.piece.record = record.entry;
-        const std::uint32_t list = record.isTransparent ? TRANSPARENT_PIECES : piece.sizeClass;
-        const auto place = static_cast<std::uint32_t>(chunk.pieces.size());
-        std::vector<std::uint32_t>& reusable = m_reusable[list];
-        if (reusable.empty()) {
-            chunk.pieces.push_back({list, pieces[list].add(piece, chunk, place)});
-        } else {
-            pieces[list].replace(reusable.back(), piece, chunk, place);
-            chunk.pieces.push_back({list, reusable.back()});
-            reusable.pop_back();
-        }
+    for (const LuNewPiece& piece : content) {
+        const LuRenderRecord& record = chunk.records[piece.record - firstRecord];
+        const std::uint32_t list = record.isTransparent ? TRANSPARENT_PIECES : piece.range->sizeClass;
+        const std::uint32_t index = takePlace(list);
+        pieces[list].set(index, piece, record.entry, chunk, static_cast<std::uint32_t>(chunk.pieces.size()));
+        chunk.pieces.push_back({list, index});
     }
     if (before.empty())
         return;
@@ -119,7 +132,7 @@ void LuDrawList::commitPieces(LuRenderChunk& chunk, std::vector<LuNewPiece>& con
     removePieces(before);
 }
 
-void LuDrawList::removePieces(std::vector<LuRenderChunk::Slot>& slots) {
+void LuDrawList::removePieces(LuRenderChunk::Slots& slots) {
     // From the end on: the piece that takes a place is then none of those that go.
     std::sort(slots.begin(), slots.end(),
               [](const auto& left, const auto& right) { return left.index > right.index; });
@@ -131,20 +144,29 @@ void LuDrawList::removePieces(std::vector<LuRenderChunk::Slot>& slots) {
     slots.clear();
 }
 
-void LuDrawList::commit(LuRenderChunk& chunk, LuRenderContent& content) {
-    commitRecords(chunk, content.records);
-    commitPieces(chunk, content.pieces);
+void LuDrawList::releaseMeshes(LuRenderChunk& chunk) {
     for (LuMesh* mesh : chunk.meshes)
         meshes.release(mesh);
-    chunk.meshes.assign(content.meshes.begin(), content.meshes.end());
-    chunk.children.swap(content.children);
-    chunk.usesWorld = content.usesWorld;
-    chunk.camera = content.camera;
-    for (const auto& child : content.children) {
+    chunk.meshes.clear();
+}
+
+void LuDrawList::releaseChildren(LuRenderChunk& chunk) {
+    for (const auto& child : chunk.children) {
         if (child)
             release(*child);
     }
-    content.clear();
+    chunk.children.clear();
+}
+
+void LuDrawList::commit(LuRenderChunk& chunk, LuRenderContent& content, const LuRenderMark& mark) {
+    commitRecords(chunk, std::span(content.records).subspan(mark.records));
+    commitPieces(chunk, std::span<const LuNewPiece>(content.pieces).subspan(mark.pieces), mark.records);
+    content.records.resize(mark.records);
+    content.pieces.resize(mark.pieces);
+    releaseMeshes(chunk);
+    moveBehind(content.meshes, mark.meshes, chunk.meshes);
+    releaseChildren(chunk);
+    moveBehind(content.children, mark.children, chunk.children);
 }
 
 void LuDrawList::move(LuRenderChunk& chunk, const LvMatrix& world) {
@@ -162,14 +184,8 @@ void LuDrawList::release(LuRenderChunk& chunk) {
         releaseUsers(record);
     }
     chunk.records.clear();
-    for (LuMesh* mesh : chunk.meshes)
-        meshes.release(mesh);
-    chunk.meshes.clear();
+    releaseMeshes(chunk);
     clipSets.release(chunk.state.clipSet);
     lightSets.release(chunk.state.lightSet);
-    for (const auto& child : chunk.children) {
-        if (child)
-            release(*child);
-    }
-    chunk.children.clear();
+    releaseChildren(chunk);
 }

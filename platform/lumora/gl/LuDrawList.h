@@ -5,6 +5,8 @@
 #include "platform/lumora/gl/LuPieceList.h"
 #include "platform/lumora/gl/LuTexelTable.h"
 
+#include <span>
+
 /// A light in the world.
 struct LuLight {
     bool isPoint = false;
@@ -35,8 +37,9 @@ public:
     std::uint32_t acquireClipSet(std::uint32_t set, const LvVec3f& normal, float distance);
     std::uint32_t acquireLightSet(std::uint32_t set, const LuLight& light);
 
-    /// Puts what was collected in the place of what the chunk had; `content` is empty afterwards.
-    void commit(LuRenderChunk& chunk, LuRenderContent& content);
+    /// Puts what was collected since the mark in the place of what the chunk had; the content then ends
+    /// there.
+    void commit(LuRenderChunk& chunk, LuRenderContent& content, const LuRenderMark& mark);
 
     /// Writes the places of a chunk, and of those below it, anew: it has moved.
     void move(LuRenderChunk& chunk, const LvMatrix& world);
@@ -59,9 +62,12 @@ public:
 
 private:
     void writeRecord(LuRenderRecord& record, const LvMatrix& world);
-    void commitRecords(LuRenderChunk& chunk, std::vector<LuRenderRecord>& content);
-    void commitPieces(LuRenderChunk& chunk, std::vector<LuNewPiece>& content);
-    void removePieces(std::vector<LuRenderChunk::Slot>& slots);
+    void commitRecords(LuRenderChunk& chunk, std::span<LuRenderRecord> content);
+    void commitPieces(LuRenderChunk& chunk, std::span<const LuNewPiece> content, std::size_t firstRecord);
+    std::uint32_t takePlace(std::uint32_t list);
+    void removePieces(LuRenderChunk::Slots& slots);
+    void releaseMeshes(LuRenderChunk& chunk);
+    void releaseChildren(LuRenderChunk& chunk);
 
     std::vector<std::uint32_t> m_reusable[TRANSPARENT_PIECES + 1]; ///< Empty between the calls.
 };

@@ -19,7 +19,7 @@ LuGLRenderAction::~LuGLRenderAction() { m_scene->unref(); }
 
 void LuGLRenderAction::visit(LuNode* node) {
     ++m_statistics.visitedNodes;
-    ++getContent().numNodes;
+    ++m_summary.numNodes;
     node->GLRender(this);
 }
 
@@ -41,17 +41,14 @@ void LuGLRenderAction::apply(LuNode* scene) {
     m_box = boxAction.getBoundingBox();
 
     m_sceneStamp = m_scene->getRenderCache().get();
-    m_depth = 0;
-    if (m_levels.empty())
-        m_levels.push_back(std::make_unique<LuRenderContent>());
-    m_content = m_levels.front().get();
+    m_summary = {};
     OldChunks old(m_root);
     m_old = &old;
     LuAction::apply(m_scene);
     m_old = nullptr;
-    m_root.swap(getContent().children);
-    m_camera = getContent().camera;
-    getContent().clear();
+    m_root.swap(m_content.children);
+    m_content.children.clear();
+    m_camera = m_summary.camera;
     releaseHeld();
     m_list.meshes.removeUnused();
 }
@@ -63,12 +60,6 @@ void LuGLRenderAction::releaseHeld() {
         m_list.lightSets.release(set);
     m_heldClipSets.clear();
     m_heldLightSets.clear();
-}
-
-void LuGLRenderAction::pushLevel() {
-    if (++m_depth == m_levels.size())
-        m_levels.push_back(std::make_unique<LuRenderContent>());
-    m_content = m_levels[m_depth].get();
 }
 
 LuRenderState LuGLRenderAction::getIncomingState() const {
@@ -123,22 +114,23 @@ bool LuGLRenderAction::keep(const LuNode* node, const LuRenderCache& cache) {
         m_list.move(chunk, world);
     ++(hasMoved ? m_statistics.movedParts : m_statistics.keptParts);
     chunk.incoming = m_state.model;
-    getContent().usesWorld |= chunk.usesWorld;
+    m_summary.usesWorld |= chunk.usesWorld;
     addCamera(chunk.camera);
-    getContent().children.push_back(std::move(*place));
+    m_content.children.push_back(std::move(*place));
     return true;
 }
 
 LuGLRenderAction::Part::Part(LuGLRenderAction& action, const LuNode* node, const LuRenderCache& cache)
     : m_action(action), m_node(node), m_cache(cache), m_stamp(cache.get()), m_above(action.m_part),
-      m_state(action.m_state), m_render(action.m_render),
+      m_state(action.m_state), m_render(action.m_render), m_summaryAbove(action.m_summary),
+      m_mark(action.m_content),
       m_chunk(action.m_found ? std::move(*std::exchange(action.m_found, nullptr)) : nullptr),
-      m_ownOld(m_chunk ? m_chunk->children : m_none), m_old(action.m_old) {
+      m_old(action.m_old) {
     action.m_part = this;
     action.m_state.model = {};
+    action.m_summary = {};
     if (m_chunk)
-        action.m_old = &m_ownOld;
-    action.pushLevel();
+        action.m_old = &m_ownOld.emplace(m_chunk->children);
 }
 
 const LvMatrix& LuGLRenderAction::Part::getWorld() {
@@ -148,33 +140,32 @@ const LvMatrix& LuGLRenderAction::Part::getWorld() {
     return m_world;
 }
 
-bool LuGLRenderAction::Part::isWorthKeeping(const LuRenderContent& content) const {
-    if (m_action.m_depth == 0 || content.numNodes >= SMALL_PART || content.children.size() > 1)
+bool LuGLRenderAction::Part::isWorthKeeping(const Summary& summary) const {
+    const std::size_t numChildren = m_action.m_content.children.size() - m_mark.children;
+    if (!m_above || summary.numNodes >= SMALL_PART || numChildren > 1)
         return true;
-    return !content.children.empty() && !content.records.empty();
+    return numChildren > 0 && m_action.m_content.records.size() > m_mark.records;
 }
 
 void LuGLRenderAction::Part::leave() {
-    LuRenderContent& content = m_action.getContent();
-    m_action.popLevel();
-    LuRenderContent& above = m_action.getContent();
-    above.usesWorld |= content.usesWorld;
-    m_action.addCamera(content.camera);
+    const Summary summary = std::exchange(m_action.m_summary, m_summaryAbove);
+    m_action.m_summary.usesWorld |= summary.usesWorld;
+    m_action.addCamera(summary.camera);
     m_action.m_state = m_state;
     m_action.m_render = m_render;
     m_action.m_part = m_above;
     m_action.m_old = m_old;
-    if (isWorthKeeping(content)) {
-        makeChunk(content, above);
-    } else {
-        merge(content, above);
-        if (m_chunk)
-            m_action.m_list.release(*m_chunk);
+    if (isWorthKeeping(summary)) {
+        makeChunk(summary);
+        return;
     }
-    content.clear();
+    m_action.m_summary.numNodes += summary.numNodes;
+    mergeWithAbove();
+    if (m_chunk)
+        m_action.m_list.release(*m_chunk);
 }
 
-void LuGLRenderAction::Part::makeChunk(LuRenderContent& content, LuRenderContent& above) {
+void LuGLRenderAction::Part::makeChunk(const Summary& summary) {
     LuDrawList& list = m_action.m_list;
     const LuRenderState state = m_action.getIncomingState();
     list.clipSets.retain(state.clipSet);
@@ -190,33 +181,26 @@ void LuGLRenderAction::Part::makeChunk(LuRenderContent& content, LuRenderContent
     m_chunk->state = state;
     m_chunk->incoming = m_state.model;
     m_chunk->world = getWorld();
-    list.commit(*m_chunk, content);
+    m_chunk->usesWorld = summary.usesWorld;
+    m_chunk->camera = summary.camera;
+    list.commit(*m_chunk, m_action.m_content, m_mark);
     m_cache.setKept();
     ++m_action.m_statistics.collectedParts;
-    above.children.push_back(std::move(m_chunk));
+    m_action.m_content.children.push_back(std::move(m_chunk));
 }
 
-void LuGLRenderAction::Part::merge(LuRenderContent& content, LuRenderContent& above) {
-    const auto firstRecord = static_cast<std::uint32_t>(above.records.size());
-    for (LuRenderRecord& record : content.records) {
-        record.local = m_state.model * record.local;
-        above.records.push_back(record);
-    }
-    for (LuNewPiece& piece : content.pieces) {
-        piece.piece.record += firstRecord;
-        above.pieces.push_back(piece);
-    }
-    above.meshes.insert(above.meshes.end(), content.meshes.begin(), content.meshes.end());
-    for (auto& child : content.children) {
-        child->incoming = m_state.model * child->incoming;
-        above.children.push_back(std::move(child));
-    }
-    above.numNodes += content.numNodes;
+/// Only the space changes: the content lies behind that of the part above already.
+void LuGLRenderAction::Part::mergeWithAbove() {
+    LuRenderContent& content = m_action.m_content;
+    for (std::size_t i = m_mark.records; i < content.records.size(); ++i)
+        content.records[i].local = m_state.model * content.records[i].local;
+    for (std::size_t i = m_mark.children; i < content.children.size(); ++i)
+        content.children[i]->incoming = m_state.model * content.children[i]->incoming;
 }
 
 void LuGLRenderAction::addCamera(const LuCamera* camera) {
-    if (!getContent().camera)
-        getContent().camera = camera;
+    if (!m_summary.camera)
+        m_summary.camera = camera;
 }
 
 void LuGLRenderAction::addClipPlane(const LvPlane& plane) {
@@ -227,7 +211,7 @@ void LuGLRenderAction::addClipPlane(const LvPlane& plane) {
     const glm::vec4 world = local * toWorld.inverse().glm();
     const LvVec3f normal(world[0], world[1], world[2]);
     const float length = normal.length();
-    getContent().usesWorld = true;
+    m_summary.usesWorld = true;
     if (!(length > 0))
         return;
     m_render.clipSet = m_list.acquireClipSet(m_render.clipSet, normal * (1 / length), -world[3] / length);
@@ -239,7 +223,7 @@ void LuGLRenderAction::addLight(const LuLight& light) {
     LuLight placed = light;
     placed.vector =
         light.isPoint ? toWorld.transformPoint(light.vector) : toWorld.transformDirection(light.vector);
-    getContent().usesWorld = true;
+    m_summary.usesWorld = true;
     m_render.lightSet = m_list.acquireLightSet(m_render.lightSet, placed);
     m_heldLightSets.push_back(m_render.lightSet);
 }
@@ -254,13 +238,12 @@ std::uint32_t LuGLRenderAction::addRecord(const LvMatrix& local, std::uint32_t f
     m_list.lightSets.retain(record.lightSet);
     record.flags = flags;
     record.isTransparent = m_render.surface.transparency > 0;
-    getContent().records.push_back(record);
-    return static_cast<std::uint32_t>(getContent().records.size() - 1);
+    m_content.records.push_back(record);
+    return static_cast<std::uint32_t>(m_content.records.size() - 1);
 }
 
 void LuGLRenderAction::addPiece(std::uint32_t record, const LuMeshRange& range, float x, float y) {
-    const LvVec3f center = range.center + LvVec3f(x, y, 0);
-    getContent().pieces.push_back({{record, range.base, range.count, x, y}, range.sizeClass, center});
+    m_content.pieces.push_back({record, x, y, &range});
 }
 
 void LuGLRenderAction::addShape(LuMeshStore::Shape shape, const LvVec3f& scale) {
@@ -270,7 +253,7 @@ void LuGLRenderAction::addShape(LuMeshStore::Shape shape, const LvVec3f& scale) 
 }
 
 void LuGLRenderAction::addMesh(LuMesh* mesh) {
-    getContent().meshes.push_back(mesh);
+    m_content.meshes.push_back(mesh);
     if (mesh->ranges.empty())
         return;
     const std::uint32_t record = addRecord(m_state.model, 0);

@@ -106,7 +106,14 @@ private:
         std::unordered_multimap<const LuNode*, std::size_t> m_index;
     };
 
-    /// A separator or kit whose content is being collected.
+    /// What is known of the content of a separator or kit, but for what lies in chunks of its own.
+    struct Summary {
+        const LuCamera* camera = nullptr; ///< The first, also of those in chunks.
+        int numNodes = 0;
+        bool usesWorld = false; ///< Something depends on its place in the world: a light, a clip plane.
+    };
+
+    /// A separator or kit whose content is being collected. All that comes behind its mark is its content.
     class Part {
     public:
         Part(LuGLRenderAction& action, const LuNode* node, const LuRenderCache& cache);
@@ -116,9 +123,9 @@ private:
         const LvMatrix& getWorld();
 
     private:
-        bool isWorthKeeping(const LuRenderContent& content) const;
-        void makeChunk(LuRenderContent& content, LuRenderContent& above);
-        void merge(LuRenderContent& content, LuRenderContent& above);
+        bool isWorthKeeping(const Summary& summary) const;
+        void makeChunk(const Summary& summary);
+        void mergeWithAbove();
 
         LuGLRenderAction& m_action;
         const LuNode* m_node;
@@ -127,18 +134,16 @@ private:
         Part* m_above;
         LuTraversalState m_state;
         LuRenderState m_render;
+        Summary m_summaryAbove;
+        LuRenderMark m_mark;
         LvMatrix m_world;
         bool m_isWorldKnown = false;
         std::unique_ptr<LuRenderChunk> m_chunk;
-        std::vector<std::unique_ptr<LuRenderChunk>> m_none;
-        OldChunks m_ownOld;
+        std::optional<OldChunks> m_ownOld;
         OldChunks* m_old;
     };
 
     bool keep(const LuNode* node, const LuRenderCache& cache);
-    LuRenderContent& getContent() { return *m_content; }
-    void pushLevel();
-    void popLevel() { m_content = m_levels[--m_depth].get(); }
 
     /// From the current space to the world's.
     LvMatrix getWorld() { return m_part ? m_part->getWorld() * m_state.model : m_state.model; }
@@ -158,10 +163,9 @@ private:
 
     // During a traversal:
     LuRenderState m_render;
-    Part* m_part = nullptr; ///< The innermost.
-    std::vector<std::unique_ptr<LuRenderContent>> m_levels;
-    std::size_t m_depth = 0;
-    LuRenderContent* m_content = nullptr; ///< Of the innermost part.
+    Part* m_part = nullptr;    ///< The innermost.
+    LuRenderContent m_content; ///< Of all parts that are open; the innermost's comes last.
+    Summary m_summary;         ///< Of the innermost part.
     OldChunks* m_old = nullptr;
     std::unique_ptr<LuRenderChunk>* m_found = nullptr; ///< Of the node whose Part comes next.
     std::optional<std::uint32_t> m_textRecord;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/lumora/base/LuPool.h"
 #include "platform/lumora/base/LvMatrix.h"
 #include "platform/lumora/gl/LuRenderState.h"
 
@@ -10,6 +11,7 @@
 class LuCamera;
 class LuNode;
 struct LuMesh;
+struct LuMeshRange;
 struct LuRenderChunk;
 
 /// A piece as the shaders get it: a run of vertices, and the record that says where it stands and how it
@@ -35,45 +37,41 @@ struct LuRenderRecord {
     std::uint32_t entry = 0; ///< In the table of records.
 };
 
-/// A piece while it is collected: its record is an index into the records collected with it.
+/// A piece while it is collected.
 struct LuNewPiece {
-    LuPiece piece;
-    std::uint32_t sizeClass = 0; ///< Of its run of vertices.
-    LvVec3f center;              ///< Of the piece, in the space of its record.
+    std::uint32_t record;     ///< Index into the records that have been collected.
+    float x, y;               ///< As of LuPiece.
+    const LuMeshRange* range; ///< The store's.
 };
 
-/// What has been collected of a part of the scene.
+/// What has been collected and belongs to no chunk yet. What is collected last leaves first: a part of the
+/// scene has all that has come since it was entered.
 struct LuRenderContent {
     std::vector<LuRenderRecord> records;
     std::vector<LuNewPiece> pieces;
     std::vector<LuMesh*> meshes; ///< Each with one user more.
     std::vector<std::unique_ptr<LuRenderChunk>> children;
-    const LuCamera* camera = nullptr; ///< The first.
-    int numNodes = 0;
-    bool usesWorld =
-        false; ///< It holds something that depends on its place in the world: a light, a clip plane.
+};
 
-    /// Keeps the memory for the next use.
-    void clear() {
-        records.clear();
-        pieces.clear();
-        meshes.clear();
-        children.clear();
-        camera = nullptr;
-        numNodes = 0;
-        usesWorld = false;
-    }
+/// How much there is of each: the place in the content where a part of the scene begins.
+struct LuRenderMark {
+    explicit LuRenderMark(const LuRenderContent& content)
+        : records(content.records.size()), pieces(content.pieces.size()), meshes(content.meshes.size()),
+          children(content.children.size()) {}
+
+    std::size_t records, pieces, meshes, children;
 };
 
 /// A part of the scene that is kept as it is drawn, until it changes or is entered with another state.
 ///
 /// It stands for a node at one place of the graph: a node that hangs in several has a chunk for each. Its
 /// records and pieces hold slots of the draw list.
-struct LuRenderChunk {
+struct LuRenderChunk : LuPooled {
     struct Slot {
         std::uint32_t list;
         std::uint32_t index;
     };
+    using Slots = std::vector<Slot, LuPoolAllocator<Slot>>;
 
     const LuNode* node = nullptr; ///< To compare with only: the stamp tells whether it is still the same.
     std::uint64_t stamp = 0;
@@ -82,8 +80,8 @@ struct LuRenderChunk {
     LvMatrix world;      ///< From its space to the world's.
     bool usesWorld = false;
     const LuCamera* camera = nullptr; ///< The first; it is there as long as the chunk is right.
-    std::vector<LuRenderRecord> records;
-    std::vector<Slot> pieces;
+    std::vector<LuRenderRecord, LuPoolAllocator<LuRenderRecord>> records;
+    Slots pieces;
     std::vector<LuMesh*> meshes;
     std::vector<std::unique_ptr<LuRenderChunk>> children;
 };
