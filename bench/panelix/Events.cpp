@@ -3,17 +3,10 @@
 #include "auditors/LuDialogPushButtonAuditor.h"
 #include "bench/DialogText.h"
 #include "bench/Measure.h"
+#include "bench/panelix/DialogScene.h"
 #include "bench/panelix/ReadDialog.h"
 #include "controls/LuDialogPushButton.h"
 #include "core/LuPanelix.h"
-#include "platform/lumora/actions/LuGetBoundingBoxAction.h"
-#include "platform/lumora/actions/LuHandleEventAction.h"
-#include "platform/lumora/actions/LuPath.h"
-#include "platform/lumora/events/LuEvent.h"
-#include "platform/lumora/nodes/LuCamera.h"
-#include "platform/lumora/nodes/LuGroup.h"
-
-#include <cmath>
 
 namespace {
 
@@ -27,59 +20,19 @@ public:
     int m_count = 0;
 };
 
-/// A dialog of buttons in a scene that shows all of it, with one unit a pixel.
-class ButtonScene {
+/// A dialog of buttons, one of which is heard.
+class ButtonScene : public bench::DialogScene {
 public:
     explicit ButtonScene(int count)
-        : m_dialog(bench::readDialog(bench::panelixText(bench::buttonDialog(count)))),
-          m_action(LvViewportRegion(VIEWPORT, VIEWPORT)) {
-        m_camera->height = VIEWPORT;
-        m_camera->position = LvVec3f(VIEWPORT / 2, -VIEWPORT / 2, 500);
-        m_camera->nearDistance = 1;
-        m_camera->farDistance = 1000;
-        m_root->ref();
-        m_root->addChild(m_camera);
-        m_root->addChild(m_dialog);
-        m_dialog->unref();
-        LuGetBoundingBoxAction().apply(m_root);
-        LuDialogPushButton* const button = bench::findButton(*m_dialog, count / 2);
+        : DialogScene(bench::readDialog(bench::panelixText(bench::buttonDialog(count))), VIEWPORT) {
+        LuDialogPushButton* const button = bench::findButton(getDialog(), count / 2);
         button->addAuditor(&m_presses);
         m_button = findMiddle(button);
-    }
-    ~ButtonScene() { m_root->unref(); }
-    ButtonScene(const ButtonScene&) = delete;
-    ButtonScene& operator=(const ButtonScene&) = delete;
-
-    /// True when the event is handled.
-    bool send(const LuEvent& event) {
-        m_action.setEvent(&event);
-        const bool isHandled = m_action.apply(m_root);
-        m_action.setEvent(nullptr);
-        return isHandled;
-    }
-    bool press(const LvVec2i32& pixel) {
-        return send(LuMouseButtonEvent(LuMouseButtonEvent::BUTTON1, LuButtonEvent::DOWN, pixel));
-    }
-    bool release(const LvVec2i32& pixel) {
-        return send(LuMouseButtonEvent(LuMouseButtonEvent::BUTTON1, LuButtonEvent::UP, pixel));
     }
 
     const LvVec2i32 m_nothing{VIEWPORT - 10, 10}; ///< A pixel beside the dialog.
     LvVec2i32 m_button;                           ///< The middle of a button.
     Counter m_presses;
-
-private:
-    LvVec2i32 findMiddle(LuDialogPushButton* button) {
-        LuGetBoundingBoxAction action;
-        action.apply(LuPath::find(m_root, button));
-        const LvVec3f middle = (action.getBoundingBox().min + action.getBoundingBox().max) * 0.5F;
-        return {static_cast<int>(std::lround(middle.x)), VIEWPORT + static_cast<int>(std::lround(middle.y))};
-    }
-
-    LuTopLevelDialog* m_dialog;
-    LuSeparator* m_root = new LuSeparator;
-    LuOrthographicCamera* m_camera = new LuOrthographicCamera;
-    LuHandleEventAction m_action;
 };
 
 void measureMotion(const char* name, int count, ButtonScene& scene, const LvVec2i32& pixel) {
@@ -89,7 +42,7 @@ void measureMotion(const char* name, int count, ButtonScene& scene, const LvVec2
                     .body =
                         [&] {
                             for (int i = 0; i < CALLS; ++i)
-                                isHandled |= scene.send(LuLocation2Event(pixel));
+                                isHandled |= scene.moveTo(pixel);
                         },
                     .clear = {}});
     bench::require(!isHandled, "nobody takes a motion");

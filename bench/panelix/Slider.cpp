@@ -4,20 +4,14 @@
 #include "auditors/LuDialogIntegerSliderAuditor.h"
 #include "bench/DialogText.h"
 #include "bench/Measure.h"
+#include "bench/panelix/DialogScene.h"
 #include "bench/panelix/ReadDialog.h"
 #include "controls/LuDialogIntegerSlider.h"
 #include "core/LuNumberFormat.h"
 #include "core/LuPanelix.h"
-#include "platform/lumora/actions/LuGetBoundingBoxAction.h"
-#include "platform/lumora/actions/LuHandleEventAction.h"
-#include "platform/lumora/actions/LuPath.h"
-#include "platform/lumora/events/LuEvent.h"
 #include "platform/lumora/io/LuDB.h"
-#include "platform/lumora/nodes/LuCamera.h"
 #include "platform/lumora/nodes/LuGroup.h"
 #include "platform/lumora/nodes/LuText3.h"
-
-#include <cmath>
 
 namespace {
 
@@ -32,75 +26,43 @@ public:
     int m_count = 0;
 };
 
-/// A dialog of buttons with a slider on top, in a scene that shows all of it.
-class SliderScene {
+/// A dialog of buttons with a slider on top.
+class SliderScene : public bench::DialogScene {
 public:
     explicit SliderScene(int count)
-        : m_dialog(bench::readDialog(bench::panelixText(bench::buttonDialog(count)))),
-          m_action(LvViewportRegion(VIEWPORT, VIEWPORT)) {
+        : DialogScene(bench::readDialog(bench::panelixText(bench::buttonDialog(count))), VIEWPORT) {
         m_slider->max = 1000;
         m_slider->width = 600;
         m_slider->fixedWidth = true;
         m_slider->continuousTrigger = true;
         m_slider->addAuditor(&m_events);
-        m_dialog->insertChild(m_slider, 0);
-        m_camera->height = VIEWPORT;
-        m_camera->position = LvVec3f(VIEWPORT / 2, -VIEWPORT / 2, 500);
-        m_camera->nearDistance = 1;
-        m_camera->farDistance = 1000;
-        m_root->ref();
-        m_root->addChild(m_camera);
-        m_root->addChild(m_dialog);
-        m_dialog->unref();
-        m_box.apply(m_root);
+        getDialog().insertChild(m_slider, 0);
+        settle();
     }
-    ~SliderScene() {
-        m_slider->removeAuditor(&m_events);
-        m_root->unref();
-    }
+    ~SliderScene() { m_slider->removeAuditor(&m_events); }
     SliderScene(const SliderScene&) = delete;
     SliderScene& operator=(const SliderScene&) = delete;
 
     void buildWindows() {
         LuDBImpl::m_isHeadless = false;
-        m_dialog->buildDialog(nullptr, 0);
+        getDialog().buildDialog(nullptr, 0);
         LuDBImpl::m_isHeadless = true;
         bench::require(m_slider->getSliderWidget() != nullptr, "the slider has its windows");
     }
 
-    /// Presses the mouse in the middle of the cursor.
-    void press() {
-        const LuPath path = LuPath::find(m_root, m_slider->getPart("cursorSep", false));
-        LuGetBoundingBoxAction action;
-        action.apply(path);
-        const LvVec3f middle = (action.getBoundingBox().min + action.getBoundingBox().max) * 0.5F;
-        m_x = static_cast<int>(std::lround(middle.x));
-        m_y = VIEWPORT + static_cast<int>(std::lround(middle.y));
-        send(LuMouseButtonEvent(LuMouseButtonEvent::BUTTON1, LuButtonEvent::DOWN, {m_x, m_y}));
+    void pressCursor() {
+        m_cursor = findMiddle(m_slider->getPart("cursorSep", false));
+        press(m_cursor);
         bench::require(m_slider->isActive(), "the cursor is held");
     }
 
-    void drag(int x) { send(LuLocation2Event({m_x + x, m_y})); }
-
-    void settle() { m_box.apply(m_root); }
+    void drag(int x) { moveTo({m_cursor.x + x, m_cursor.y}); }
 
     LuDialogIntegerSlider* m_slider = new LuDialogIntegerSlider;
     Counter m_events;
 
 private:
-    void send(const LuEvent& event) {
-        m_action.setEvent(&event);
-        m_action.apply(m_root);
-        m_action.setEvent(nullptr);
-    }
-
-    LuTopLevelDialog* m_dialog;
-    LuSeparator* m_root = new LuSeparator;
-    LuOrthographicCamera* m_camera = new LuOrthographicCamera;
-    LuHandleEventAction m_action;
-    LuGetBoundingBoxAction m_box;
-    int m_x = 0;
-    int m_y = 0;
+    LvVec2i32 m_cursor; ///< The pixel in its middle, at the press.
 };
 
 void measureValue(int count) {
@@ -138,7 +100,7 @@ void measureText() {
 void measureDrag(int count) {
     SliderScene scene(count);
     scene.buildWindows();
-    scene.press();
+    scene.pressCursor();
     bench::measure("panelix-slider-drag", count, REPEATS, CALLS,
                    {.prepare =
                         [&] {
