@@ -169,10 +169,13 @@ bool readPlayScript(std::string_view text, const std::string& name, std::vector<
 
 bool loadPlayScript(const std::string& path, std::vector<PlayStep>& steps) {
     std::ifstream file(path, std::ios::binary);
-    std::ostringstream content;
-    if (!file || !(content << file.rdbuf())) {
+    // A folder can be opened, but not read. That a file is empty is no fault.
+    file.peek();
+    if (!file.is_open() || file.bad()) {
         LuDebugError::post(WHERE, "%s can't be read.", path.c_str());
         return false;
     }
+    std::ostringstream content;
+    content << file.rdbuf();
     return readPlayScript(content.str(), path, steps);
 }

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 namespace {
 
 std::vector<PlayStep> readGood(const char* text) {
@@ -82,6 +84,26 @@ TEST(PlayScript, goodStepsAreThereBesideAFault) {
     std::vector<PlayStep> steps;
     EXPECT_FALSE(readPlayScript("key Hyper\nrelease\n", "test.play", steps));
     ASSERT_EQ(steps.size(), 1U);
+}
+
+TEST(PlayScript, emptyFile_hasNoSteps) {
+    const std::string path = getTestOutputFolder() + "/PlayScriptTest-empty.play";
+    ASSERT_TRUE(std::ofstream(path).is_open());
+    std::vector<PlayStep> steps;
+    EXPECT_TRUE(loadPlayScript(path, steps));
+    EXPECT_TRUE(steps.empty());
+}
+
+TEST(PlayScript, file_isRead) {
+    std::vector<PlayStep> steps;
+    EXPECT_TRUE(loadPlayScript("tests/fuzz/seeds/playScript/everything.play", steps));
+    EXPECT_FALSE(steps.empty());
+}
+
+TEST(PlayScript, folder_isReported) {
+    expectMessage("readPlayScript", "tests can't be read.");
+    std::vector<PlayStep> steps;
+    EXPECT_FALSE(loadPlayScript("tests", steps));
 }
 
 TEST(PlayScript, fileThatIsNotThere_isReported) {
