@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr const char* WHERE = "Player::play";
+
 /// A drag comes in several motions, as from a hand.
 constexpr int DRAG_STEPS = 4;
 
@@ -30,8 +32,8 @@ LuPanelix* findTarget(const PlayStep& step, const std::vector<LuTopLevelDialog*>
         found = findById(step.target.substr(0, dot), dialogs);
     }
     if (!found)
-        LuDebugError::post("Player::play", "Line %d: there is no component with the auditorID \"%s\".",
-                           step.line, step.target.c_str());
+        LuDebugError::post(WHERE, "Line %d: there is no component with the auditorID \"%s\".", step.line,
+                           step.target.c_str());
     return found;
 }
 
@@ -51,8 +53,13 @@ bool Player::perform(const PlayStep& step, const std::vector<LuTopLevelDialog*>&
     case PlayStep::PRESS:
     case PlayStep::DRAG: {
         LuPanelix* const component = findTarget(step, dialogs, part);
-        if (!component || !press(*component, part))
+        if (!component)
             return false;
+        if (!press(*component, part)) {
+            LuDebugError::post(WHERE, "Line %d: there is nothing to press for \"%s\" in the %s.", step.line,
+                               step.target.c_str(), getPlaceName());
+            return false;
+        }
         if (step.action == PlayStep::PRESS)
             return true;
         LvVec2i32 done;

@@ -16,7 +16,11 @@ public:
     bool play(const std::vector<PlayStep>& steps, const std::vector<LuTopLevelDialog*>& dialogs);
 
 protected:
-    /// Presses the mouse on a component; `part` is empty for the place that the user operates.
+    /// Where it is played: "windows", say, for messages.
+    virtual const char* getPlaceName() const = 0;
+
+    /// Presses the mouse on a component; `part` is empty for the place that the user operates. False, without
+    /// a message, where there is no such place.
     virtual bool press(LuPanelix& component, const std::string& part) = 0;
 
     /// Moves the pressed mouse; pixels, y down.

@@ -81,11 +81,8 @@ void ScenePlayer::pointAt(const LvVec3f& place) {
 
 bool ScenePlayer::press(LuPanelix& component, const std::string& part) {
     LvVec3f place;
-    if (!findPlace(component, part, place)) {
-        LuDebugError::post(WHERE, "\"%s\" has nothing in the scene to press.",
-                           component.auditorID.getValue().getString());
+    if (!findPlace(component, part, place))
         return false;
-    }
     pointAt(place);
     send(LuMouseButtonEvent(LuMouseButtonEvent::BUTTON1, LuButtonEvent::DOWN, m_pixel));
     return true;

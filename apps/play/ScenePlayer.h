@@ -18,6 +18,7 @@ public:
     ScenePlayer(LuNode* root, LuCamera* camera, const LvViewportRegion& region, Snapshot snapshot = {});
 
 protected:
+    const char* getPlaceName() const override { return "scene"; }
     bool press(LuPanelix& component, const std::string& part) override;
     void moveBy(const LvVec2i32& offset) override;
     void release() override;

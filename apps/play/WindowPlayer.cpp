@@ -50,6 +50,8 @@ HWND findSliderPart(const LuDialogSlider& slider, const std::string& part, RECT&
         const HWND window = part == "check" ? slider.getToggleWidget() : slider.getEditWidget();
         return GetWindowRect(window, &rect) ? window : nullptr;
     }
+    if (!part.empty() && part != "cursor" && part != "frame")
+        return nullptr;
     const HWND window = bar->getNormalWindow();
     rect = getScreenRect(window, part == "frame" ? bar->getBarRectangle() : bar->getThumbRectangle());
     return window;
@@ -59,6 +61,8 @@ HWND findSliderPart(const LuDialogSlider& slider, const std::string& part, RECT&
 HWND findPressed(LuPanelix& component, const std::string& part, RECT& rect) {
     if (component.isOfType(LuDialogSlider::getClassTypeId()))
         return findSliderPart(static_cast<const LuDialogSlider&>(component), part, rect);
+    if (!part.empty() && part != "frame")
+        return nullptr;
     const HWND carrier = component.isOfType(LuDialogComponent::getClassTypeId())
                              ? static_cast<LuDialogComponent&>(component).getWidget()
                              : nullptr;
@@ -75,6 +79,9 @@ HWND getEnabledWindow(HWND window) {
 
 bool isMinimised(HWND window) { return (GetWindowLongPtrA(window, GWL_STYLE) & WS_MINIMIZE) != 0; }
 
+/// Whether the mouse can get at a window. What is in a minimised one still counts as visible.
+bool isSeen(HWND window) { return IsWindowVisible(window) && !isMinimised(GetAncestor(window, GA_ROOT)); }
+
 void send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     PostMessageA(window, message, wParam, lParam);
     LuWin::processMessages();
@@ -83,11 +90,14 @@ void send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 } // namespace
 
 bool WindowPlayer::pressDialog(LuTopLevelDialog& dialog, const std::string& part) {
+    const HWND window = dialog.getBaseWidget();
     if (part == "minimise")
-        m_minimised = dialog.getBaseWidget();
+        m_minimised = window;
+    else if (part.empty() || part == "frame")
+        m_frame = window;
     else
-        m_frame = dialog.getBaseWidget();
-    return true;
+        return false;
+    return IsWindow(window) != 0;
 }
 
 bool WindowPlayer::press(LuPanelix& component, const std::string& part) {
@@ -95,13 +105,10 @@ bool WindowPlayer::press(LuPanelix& component, const std::string& part) {
         return pressDialog(static_cast<LuTopLevelDialog&>(component), part);
     RECT rect{};
     const HWND window = findPressed(component, part, rect);
-    if (!IsWindow(window)) {
-        LuDebugError::post(WHERE, "\"%s\" has no window to press.",
-                           component.auditorID.getValue().getString());
+    if (!IsWindow(window))
         return false;
-    }
     m_place.setValue((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
-    m_pressed = IsWindowVisible(window) ? getEnabledWindow(window) : nullptr;
+    m_pressed = isSeen(window) ? getEnabledWindow(window) : nullptr;
     // The window hears first that it is going to be pressed.
     if (m_pressed)
         SendMessageA(m_pressed, WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(GetAncestor(m_pressed, GA_ROOT)),

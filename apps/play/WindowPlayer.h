@@ -16,6 +16,7 @@ public:
     explicit WindowPlayer(Snapshot snapshot = {}) : m_snapshot(std::move(snapshot)) {}
 
 protected:
+    const char* getPlaceName() const override { return "windows"; }
     bool press(LuPanelix& component, const std::string& part) override;
     void moveBy(const LvVec2i32& offset) override;
     void release() override;

@@ -50,6 +50,37 @@ TEST_F(TwinTest, disabledButton_isNotHeard) {
     EXPECT_EQ(expectTwins(BUTTONS, "press never\nrelease\n", FRAMES), Calls());
 }
 
+TEST_F(TwinTest, buttonReleasedElsewhere_isHeardInTheSceneOnly) {
+    // A window looks where the mouse is released; the scene goes by where it was pressed.
+    const std::string script = "drag first 0 150\n";
+    EXPECT_EQ(playTwin(Rendition::WINDOWS, BUTTONS, script).calls, Calls());
+    EXPECT_EQ(playTwin(Rendition::SCENE, BUTTONS, script).calls, Calls{"dialogPushButton first First"});
+}
+
+TEST_F(TwinTest, spaceKey_pressesTheButtonOfTheLastClickInWindowsOnly) {
+    // In the scene nothing has the keyboard but what text is typed into.
+    const std::string script = "press first\nrelease\nkey Space\n";
+    EXPECT_EQ(playTwin(Rendition::WINDOWS, BUTTONS, script).calls,
+              (Calls{"dialogPushButton first First", "dialogPushButton first First"}));
+    EXPECT_EQ(playTwin(Rendition::SCENE, BUTTONS, script).calls, Calls{"dialogPushButton first First"});
+}
+
+TEST_F(TwinTest, tabKey_movesOnToTheNextButtonInWindowsOnly) {
+    const std::string script = "press first\nrelease\nkey Tab\nkey Space\n";
+    EXPECT_EQ(playTwin(Rendition::WINDOWS, BUTTONS, script).calls,
+              (Calls{"dialogPushButton first First", "dialogPushButton second Second"}));
+    EXPECT_EQ(playTwin(Rendition::SCENE, BUTTONS, script).calls, Calls{"dialogPushButton first First"});
+}
+
+TEST_F(TwinTest, buttonsSideBySide_areHeardEach) {
+    EXPECT_EQ(expectTwins(R"(TopLevelDialog { auditorID "dialog" width 400 height 100 ColumnDialog {
+        DialogPushButton { auditorID "left" buttonLabel "L" }
+        DialogSeparator { }
+        DialogCheckBox { auditorID "right" onString "R" } } })",
+                          "press right\nrelease\npress left\nrelease\n", FRAMES),
+              (Calls{"dialogCheckBox right TRUE", "dialogPushButton left L"}));
+}
+
 TEST_F(TwinTest, labelAndSeparator_takeNoPress) {
     EXPECT_EQ(expectTwins(BUTTONS, "press text\nrelease\npress line\nrelease\n", FRAMES), Calls());
 }
@@ -135,6 +166,17 @@ TEST_F(TwinTest, draggedPanel_standsWhereTheMouseTookIt) {
 
 TEST_F(TwinTest, minimisedDialog_isABarOrAStrip) {
     EXPECT_EQ(expectTwins(BUTTONS, "press dialog.minimise\nrelease\n", FRAMES + BAR), Calls());
+}
+
+TEST_F(TwinTest, minimisedDialog_hidesItsButtonsFromTheMouse) {
+    EXPECT_EQ(expectTwins(BUTTONS, "press dialog.minimise\nrelease\npress first\nrelease\n", FRAMES + BAR),
+              Calls());
+}
+
+TEST_F(TwinTest, resizedDialog_isAsLargeAndItsButtonsAreHeard) {
+    const std::string script = "resize 500 350\npress first\nrelease\n";
+    EXPECT_EQ(expectTwins(BUTTONS, script, FRAMES), Calls{"dialogPushButton first First"});
+    EXPECT_EQ(playTwin(Rendition::SCENE, BUTTONS, script).fields.at("dialog.width"), "500");
 }
 
 TEST_F(TwinTest, minimisedDialogDragged_movesTheStripsPlaceAlone) {
