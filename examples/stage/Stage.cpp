@@ -3,6 +3,7 @@
 
 #include "apps/play/ScenePlayer.h"
 #include "layout/LuTopLevelDialog.h"
+#include "platform/lumora/base/LuDebugError.h"
 #include "platform/lumora/nodes/LuCamera.h"
 #include "platform/lumora/nodes/LuTransforms.h"
 #include "platform/lumora/viewer/LuViewer.h"
@@ -50,6 +51,8 @@ Stage::Stage(const char* title, int argumentCount, char** arguments)
             isTilted = true;
         else if (word == "--play" && i + 1 < argumentCount)
             m_playFile = arguments[++i];
+        else
+            m_misunderstood = word;
     }
     m_scene->ref();
     m_camera = makeCamera(isTilted);
@@ -68,6 +71,11 @@ void Stage::add(LuNode* node, const LvVec3f& at) {
 }
 
 bool Stage::run(LuTopLevelDialog* panel) {
+    if (!m_misunderstood.empty()) {
+        LuDebugError::post("Stage", "\"%s\" is not understood; the arguments are: [tilted] [--play FILE]",
+                           m_misunderstood.c_str());
+        return false;
+    }
     if (!m_playFile.empty())
         return play(panel);
     const auto viewer = LuViewer::create(m_title.c_str(), WIDTH, HEIGHT);

@@ -29,7 +29,7 @@ public:
     void add(LuNode* node, const LvVec3f& at);
 
     /// Shows the scene until the user closes it, or plays the file to it, which `panel` stands in. False,
-    /// with a message, when that could not be done.
+    /// with a message, when that could not be done, or an argument was none.
     bool run(LuTopLevelDialog* panel);
 
 private:
@@ -37,6 +37,7 @@ private:
 
     std::string m_title;
     std::string m_playFile;
+    std::string m_misunderstood; ///< An argument that is none.
     LuSeparator* m_scene;
     LuCamera* m_camera;
 };
