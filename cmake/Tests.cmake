@@ -24,7 +24,7 @@ else()
 endif()
 # What programs say and print, without their main.
 list(APPEND sources ${CMAKE_SOURCE_DIR}/apps/view/EventPrinter.cpp ${CMAKE_SOURCE_DIR}/apps/view/SkinChoice.cpp
-    ${CMAKE_SOURCE_DIR}/apps/view/TreePrinter.cpp)
+    ${CMAKE_SOURCE_DIR}/apps/view/PanelScene.cpp ${CMAKE_SOURCE_DIR}/apps/view/TreePrinter.cpp)
 # The control of an example.
 file(GLOB stepper CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/examples/custom-control/Stepper*.cpp)
 list(APPEND sources ${stepper})

@@ -32,7 +32,7 @@ struct Options {
     std::string snapshot;
     std::string play;
     std::string size = "800x600";
-    PanelScene::View camera = PanelScene::FRONT;
+    std::string camera = "front";
     LvVec2i32 pixels;
     bool areEventsPrinted = false;
     bool hasScene = false;
@@ -52,6 +52,9 @@ std::string readSize(const std::string& text, LvVec2i32& size) {
     return "it is written 800x600, and at most 8192x8192";
 }
 
+/// A variable of a script that is not set makes an empty name.
+std::string checkFile(const std::string& name) { return name.empty() ? "the file has no name" : ""; }
+
 void addOptions(CLI::App& app, Options& options) {
     app.add_option("FILE", options.files, "Dialog files, text or binary")->required();
     app.add_option("--id", options.id, "Show the component with this auditorID")->type_name("ID");
@@ -70,18 +73,18 @@ void addOptions(CLI::App& app, Options& options) {
         ->type_name("WxH");
     app.add_option("--camera", options.camera,
                    "How the scene is seen: front, one unit a pixel (without it), or tilted")
-        ->transform(CLI::CheckedTransformer(std::map<std::string, PanelScene::View>{
-                                                {"front", PanelScene::FRONT}, {"tilted", PanelScene::TILTED}})
-                        .description(""))
+        ->check(CLI::IsMember({"front", "tilted"}).description(""))
         ->type_name("front|tilted");
     app.add_option(
            "--play", options.play,
            "Play the actions of a file to the dialogs and end: to the scene with --scene, otherwise to "
            "the windows")
+        ->check(checkFile)
         ->type_name("FILE");
     app.add_option(
            "--snapshot", options.snapshot,
            "Write a picture of what shows and end: of the scene with --scene, otherwise of the windows")
+        ->check(checkFile)
         ->type_name("FILE.png");
     app.add_option(
            "--skin", options.skin,
@@ -126,7 +129,7 @@ bool Show::load() {
             m_scene.add(dialog->get());
     }
     if (m_options.showsScene())
-        m_scene.look(m_options.camera);
+        m_scene.look(m_options.camera == "tilted" ? PanelScene::TILTED : PanelScene::FRONT);
     return true;
 }
 

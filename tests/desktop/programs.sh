@@ -8,7 +8,7 @@ test_view_help_namesTheOptions() {
     run_program panelix-view --help
     expect_equal status 0 "$status"
     local option
-    for option in --id --events --tree --snapshot --skin; do
+    for option in --id --events --tree --scene --both --size --camera --play --snapshot --skin; do
         expect_contains help "$option" "$output"
     done
 }
@@ -17,6 +17,17 @@ test_view_wrongUse_isToldFromAFault() {
     run_program panelix-view --nonsense "$EXAMPLE"
     expect_equal status 2 "$status"
     run_program panelix-view
+    expect_equal status 2 "$status"
+}
+
+test_view_valuesThatAreNone_areWrongUse() {
+    local values
+    for values in '--size 5x' '--size 0x5' '--size 9000x5' '--camera side' '--camera 0' '--tree xml' '--scene --both'; do
+        # shellcheck disable=SC2086 # a list of words
+        run_program panelix-view $values "$EXAMPLE"
+        expect_equal "status of $values" 2 "$status"
+    done
+    run_program panelix-view --snapshot '' "$EXAMPLE"
     expect_equal status 2 "$status"
 }
 
@@ -97,6 +108,44 @@ test_view_snapshot_isAPictureAsLargeAsTheWindow() {
     [ "$colours" -gt 10 ] || desktop_error "the picture has only $colours colours"
     expect_contains size "$(run_program panelix-view --tree "$EXAMPLE"; head -n 1 <<<"$output" | sed 's/.*size \([0-9]*\) \([0-9]*\)/\1 by \2/')" \
         "$(pngtopnm -quiet "$FOLDER/picture.png" | pnmfile)"
+}
+
+test_view_snapshotOfAScene_isAsLargeAsAskedFor() {
+    run_program panelix-view --scene --size 320x240 --snapshot "$FOLDER/front.png" "$EXAMPLE"
+    expect_equal "status and output" "0 " "$status $output"
+    expect_contains size "320 by 240" "$(pngtopnm -quiet "$FOLDER/front.png" | pnmfile)"
+    run_program panelix-view --scene --size 320x240 --camera tilted --snapshot "$FOLDER/tilted.png" "$EXAMPLE"
+    expect_equal "status and output" "0 " "$status $output"
+    run_program panelix-view --scene --size 320x240 --skin slate --snapshot "$FOLDER/slate.png" "$EXAMPLE"
+    expect_equal "status and output" "0 " "$status $output"
+    local other
+    for other in tilted slate; do
+        ! cmp -s "$FOLDER/front.png" "$FOLDER/$other.png" || desktop_error "$other looks as the front does"
+    done
+}
+
+test_view_playFile_isPlayedToWindowsAndScene() {
+    printf '%s\n' 'press red' 'release' "snapshot $FOLDER/played.png" 'press green' 'release' >"$FOLDER/two.play"
+    local rendition
+    for rendition in '' --scene --both; do
+        rm -f "$FOLDER/played.png"
+        # shellcheck disable=SC2086 # no word, or one
+        run_program panelix-view $rendition --events --play "$FOLDER/two.play" "$EXAMPLE"
+        expect_equal "status with $rendition" 0 "$status"
+        expect_equal "events with $rendition" "red green" "$(cut -d '"' -f 2 <<<"$output" | paste -s -d ' ')"
+        [ -s "$FOLDER/played.png" ] || desktop_error "there is no picture with $rendition"
+    done
+}
+
+test_view_faultyPlayFile_saysWhere() {
+    printf '%s\n' 'press red' 'relase' >"$FOLDER/faulty.play"
+    run_program panelix-view --scene --events --play "$FOLDER/faulty.play" "$EXAMPLE"
+    expect_equal status 1 "$status"
+    expect_contains message 'faulty.play:2:1: error: "relase" is no action' "$output"
+    printf '%s\n' 'press red' 'release' 'press blu' >"$FOLDER/faulty.play"
+    run_program panelix-view --scene --play "$FOLDER/faulty.play" "$EXAMPLE"
+    expect_equal status 1 "$status"
+    expect_contains message 'Line 3: there is no component with the auditorID "blu"' "$output"
 }
 
 test_view_snapshotThatCannotBeWritten_isAFault() {
