@@ -154,6 +154,28 @@ test_view_snapshotThatCannotBeWritten_isAFault() {
     expect_contains message "can't be written" "$output"
 }
 
+test_scenePanel_eachButton_changesWhatIsSeenAndIsHeard() {
+    local buttons=(turn larger lamp skin) before=$FOLDER/start.png button
+    {
+        printf 'snapshot %s\n' "$before"
+        printf "press %s\nrelease\nsnapshot $FOLDER/%s.png\n" turn turn larger larger lamp lamp skin skin
+        printf '%s\n' 'press window' 'release' 'press lamp' 'release'
+    } >"$FOLDER/all.play"
+    run_program example-scene-panel --play "$FOLDER/all.play"
+    expect_equal status 0 "$status"
+    expect_equal lines "${buttons[*]} window lamp" "$(paste -s -d ' ' <<<"$output")"
+    for button in "${buttons[@]}"; do
+        ! cmp -s "$before" "$FOLDER/$button.png" || desktop_error "nothing is seen of $button"
+        before=$FOLDER/$button.png
+    done
+}
+
+test_scenePanel_unknownArgument_isAFault() {
+    run_program example-scene-panel titled
+    expect_equal status 1 "$status"
+    expect_contains message '"titled" is not understood' "$output"
+}
+
 test_check_goodFile_saysNothing() {
     run_program panelix-check "$EXAMPLE"
     expect_equal "status and output" "0 " "$status $output"

@@ -20,6 +20,22 @@ TEST_F(PanelPictureTest, panelOfTheSlateSkin_looksAsInItsPicture) {
     expectLikeReference(drawPanel(), "panel-slate");
 }
 
+TEST_F(PanelPictureTest, skinChangedWhileItIsShown_looksAsIfItHadAlwaysBeenThere) {
+    auto* const dialog = read<LuTopLevelDialog>(getPanel());
+    buildIn3D(dialog);
+    static_cast<LuDialogPushButton*>(dialog->searchForAuditorId("pressed"))->change3DButtonState(1);
+    LuOffscreenRenderer renderer(createContext());
+    renderer.setSize(dialog->width.getValue(), dialog->height.getValue());
+    renderer.setBackground({0.1F, 0.1F, 0.3F});
+    renderer.lookFromFront(0, 0);
+    for (const char* skin : {"default", "slate", "default"}) {
+        LuPanelix::setSkin(skin);
+        LuPicture picture;
+        ASSERT_TRUE(renderer.render(dialog, picture));
+        EXPECT_EQ(compareWithReference(picture, std::string("panel-") + skin), "");
+    }
+}
+
 int getBrightness(const LuPicture::Pixel& pixel) { return (pixel.red + pixel.green + pixel.blue) / 3; }
 
 TEST_F(PanelPictureTest, disabledButtonOfTheSlateSkin_isHatchedAndHardlyBrighter) {
