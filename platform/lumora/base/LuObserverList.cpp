@@ -8,35 +8,45 @@
 namespace {
 
 constexpr std::uint32_t ORDERED_LENGTH = 16;
-constexpr std::uint32_t FIRST_CAPACITY = 3;
-constexpr std::uint32_t NOT_FOUND = 0xFFFFFFFF;
+constexpr std::uint32_t FARTHEST_PLACE = (1U << 27) - 1;
 
-/// Looks from both ends at once: nodes that came together go together, so the one sought is near an end.
-std::uint32_t findFromEnds(const std::uintptr_t* list, std::uint32_t length, std::uintptr_t bits) {
+} // namespace
+
+std::uint32_t LuObserverList::Many::find(std::uintptr_t bits) {
+    const std::uintptr_t* const list = entries();
     std::uint32_t low = 0;
+    std::uint32_t below = std::min<std::uint32_t>(lastPlace, length);
+    std::uint32_t above = below;
     std::uint32_t high = length;
-    while (low < high) {
-        if (list[low] == bits)
-            return low;
-        if (list[--high] == bits)
-            return high;
-        ++low;
+    while (low < below || above < high) {
+        if (low < below) {
+            if (list[low] == bits)
+                return low;
+            if (list[--below] == bits)
+                return below;
+            ++low;
+        }
+        if (above < high) {
+            if (list[above] == bits)
+                return above;
+            if (list[--high] == bits)
+                return high;
+            ++above;
+        }
     }
     return NOT_FOUND;
 }
-
-} // namespace
 
 LuObserverList::~LuObserverList() {
     if (isMany())
         freeMany(getMany());
 }
 
-LuObserverList::Many* LuObserverList::makeMany(std::uint32_t capacity) {
-    return new (LuPool::allocate(getManySize(capacity))) Many{0, capacity};
+LuObserverList::Many* LuObserverList::makeMany(std::uint32_t doublings) {
+    return new (LuPool::allocate(getManySize(FIRST_CAPACITY << doublings))) Many{0, doublings, 0};
 }
 
-void LuObserverList::freeMany(Many* many) { LuPool::deallocate(many, getManySize(many->capacity)); }
+void LuObserverList::freeMany(Many* many) { LuPool::deallocate(many, getManySize(many->getCapacity())); }
 
 int LuObserverList::getLength() const {
     if (isMany())
@@ -51,7 +61,7 @@ LuObserver LuObserverList::operator[](int index) const {
 bool LuObserverList::contains(LuObserver observer) const {
     if (!isMany())
         return m_bits == observer.m_bits;
-    return findFromEnds(getMany()->entries(), getMany()->length, observer.m_bits) != NOT_FOUND;
+    return getMany()->find(observer.m_bits) != NOT_FOUND;
 }
 
 void LuObserverList::add(LuObserver observer) {
@@ -60,14 +70,15 @@ void LuObserverList::add(LuObserver observer) {
         return;
     }
     if (!isMany()) {
-        Many* const many = makeMany(FIRST_CAPACITY);
+        Many* const many = makeMany(0);
         many->entries()[many->length++] = m_bits;
         setMany(many);
-    } else if (getMany()->length == getMany()->capacity) {
+    } else if (getMany()->length == getMany()->getCapacity()) {
         Many* const before = getMany();
-        Many* const many = makeMany(before->capacity * 2);
+        Many* const many = makeMany(before->doublings + 1);
         std::copy_n(before->entries(), before->length, many->entries());
         many->length = before->length;
+        many->lastPlace = before->lastPlace;
         freeMany(before);
         setMany(many);
     }
@@ -83,13 +94,18 @@ void LuObserverList::remove(LuObserver observer) {
     }
     Many* const many = getMany();
     std::uintptr_t* const entries = many->entries();
-    const std::uint32_t index = findFromEnds(entries, many->length, observer.m_bits);
+    const std::uint32_t index = many->find(observer.m_bits);
     if (index == NOT_FOUND)
         return;
-    if (many->length <= ORDERED_LENGTH)
+    const std::uint32_t last = many->length - 1;
+    if (many->length <= ORDERED_LENGTH) {
         std::copy(entries + index + 1, entries + many->length, entries + index);
-    else
-        entries[index] = entries[many->length - 1];
+    } else {
+        entries[index] = entries[last];
+        // The end is looked at in any case: what comes and goes there doesn't lead the search away.
+        if (index + ORDERED_LENGTH < last)
+            many->lastPlace = std::min(index, FARTHEST_PLACE);
+    }
     if (--many->length == 1) {
         m_bits = entries[0];
         freeMany(many);

@@ -77,17 +77,25 @@ public:
         }
     }
 
-    /// Removes one entry of the observer; none is no fault. Long lists don't keep their order, so that the
-    /// thousands of parents of a shared node come and go at a small cost.
+    /// Removes one entry of the observer; none is no fault. Long lists don't keep their order. The thousands
+    /// of parents of a shared node come and go at a small cost: one that leaves is soon found when it came
+    /// shortly before or after the one that left before it, or is the first or the last.
     void remove(LuObserver observer);
 
 private:
     /// Two and more observers, in one block of memory: their bits follow the header.
     struct Many {
         std::uint32_t length;
-        std::uint32_t capacity;
+        std::uint32_t doublings : 5;  ///< Of the capacity, from FIRST_CAPACITY on.
+        std::uint32_t lastPlace : 27; ///< In a long list, where the search for the next to leave begins.
+        std::uint32_t getCapacity() const { return FIRST_CAPACITY << doublings; }
         std::uintptr_t* entries() { return reinterpret_cast<std::uintptr_t*>(this + 1); }
+
+        /// The place of an entry, looked for around lastPlace and from both ends at once, or NOT_FOUND.
+        std::uint32_t find(std::uintptr_t bits);
     };
+    static constexpr std::uint32_t FIRST_CAPACITY = 3;
+    static constexpr std::uint32_t NOT_FOUND = 0xFFFFFFFF;
     static constexpr std::uintptr_t MANY = 3;
     static constexpr int FEW = 8;
 
@@ -97,15 +105,20 @@ private:
     static std::size_t getManySize(std::uint32_t capacity) {
         return sizeof(Many) + capacity * sizeof(std::uintptr_t);
     }
-    static Many* makeMany(std::uint32_t capacity);
+    static Many* makeMany(std::uint32_t doublings);
     static void freeMany(Many* many);
 
     template <class Function>
     void callEach(const std::uintptr_t* bits, int length, Function& function) const {
         for (int i = 0; i < length; ++i) {
-            if (contains(LuObserver(bits[i])))
+            if (isAt(i, bits[i]) || contains(LuObserver(bits[i])))
                 function(LuObserver(bits[i]));
         }
+    }
+
+    /// Mostly nothing has changed meanwhile, and no search is needed.
+    bool isAt(int index, std::uintptr_t bits) const {
+        return isMany() && index < getLength() && getMany()->entries()[index] == bits;
     }
 
     std::uintptr_t m_bits = 0;
