@@ -11,12 +11,16 @@
 
 namespace {
 
+/// What waits, in the order of scheduling. A sensor that leaves has a null left in its place, so that the
+/// thousands of sensors of a dialog come and go at a small cost each; the last entry is never null.
 std::vector<LuDelayQueueSensor*>& getQueue() {
     static auto& s_queue = *new std::vector<LuDelayQueueSensor*>;
     return s_queue;
 }
 
-/// The sensors that the running processQueue has still to fire.
+std::size_t s_numGaps = 0; ///< The nulls in the queue.
+
+/// The sensors that the running processQueue has still to fire, with nulls where one has fired or left.
 std::vector<LuDelayQueueSensor*>* s_running = nullptr;
 
 } // namespace
@@ -30,18 +34,39 @@ void LuSensor::notify(const LuNotification&) { trigger(); }
 
 LuDelayQueueSensor::~LuDelayQueueSensor() { unschedule(); }
 
+void LuDelayQueueSensor::closeGaps(Sensors& sensors) {
+    std::erase(sensors, nullptr);
+    for (std::size_t i = 0; i < sensors.size(); ++i)
+        sensors[i]->m_place = static_cast<std::uint32_t>(i);
+}
+
 void LuDelayQueueSensor::schedule() {
-    if (std::exchange(m_isScheduled, true))
+    if (isScheduled())
         return;
-    getQueue().push_back(this);
+    Sensors& queue = getQueue();
+    if (s_numGaps > queue.size() / 2) {
+        closeGaps(queue);
+        s_numGaps = 0;
+    }
+    m_place = static_cast<std::uint32_t>(queue.size());
+    queue.push_back(this);
 }
 
 void LuDelayQueueSensor::unschedule() {
-    if (!std::exchange(m_isScheduled, false))
+    if (!isScheduled())
         return;
-    std::erase(getQueue(), this);
-    if (s_running)
-        std::replace(s_running->begin(), s_running->end(), this, static_cast<LuDelayQueueSensor*>(nullptr));
+    const std::size_t place = std::exchange(m_place, NOT_SCHEDULED);
+    if (s_running && place < s_running->size() && (*s_running)[place] == this) {
+        (*s_running)[place] = nullptr;
+        return;
+    }
+    Sensors& queue = getQueue();
+    queue[place] = nullptr;
+    ++s_numGaps;
+    while (!queue.empty() && !queue.back()) {
+        queue.pop_back();
+        --s_numGaps;
+    }
 }
 
 void LuDelayQueueSensor::trigger() {
@@ -59,10 +84,13 @@ void LuDelayQueueSensor::notify(const LuNotification&) {
 void LuDelayQueueSensor::processQueue() {
     if (s_running)
         return;
-    std::vector<LuDelayQueueSensor*> running = std::exchange(getQueue(), {});
+    Sensors running = std::exchange(getQueue(), {});
+    s_numGaps = 0;
+    std::erase(running, nullptr);
     std::stable_sort(running.begin(), running.end(), [](const auto* left, const auto* right) {
         return left->getPriority() < right->getPriority();
     });
+    closeGaps(running);
     s_running = &running;
     for (std::size_t i = 0; i < running.size(); ++i) {
         if (running[i])

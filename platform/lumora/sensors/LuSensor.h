@@ -3,6 +3,9 @@
 
 #include "platform/lumora/base/LuPool.h"
 
+#include <cstdint>
+#include <vector>
+
 class LuBase;
 class LuField;
 class LuSensor;
@@ -48,7 +51,7 @@ public:
     /// Puts the sensor in the queue; once, however often it is called.
     void schedule();
     void unschedule();
-    bool isScheduled() const { return m_isScheduled; }
+    bool isScheduled() const { return m_place != NOT_SCHEDULED; }
 
     void trigger() override;
     void notify(const LuNotification& notification) override;
@@ -58,8 +61,14 @@ public:
     static void processQueue();
 
 private:
+    static constexpr std::uint32_t NOT_SCHEDULED = 0xFFFFFFFF;
+    using Sensors = std::vector<LuDelayQueueSensor*>;
+
+    /// Drops the places of sensors that have left, and tells the others their new ones.
+    static void closeGaps(Sensors& sensors);
+
     unsigned m_priority = DEFAULT_PRIORITY;
-    bool m_isScheduled = false;
+    std::uint32_t m_place = NOT_SCHEDULED; ///< In the queue, or in what processQueue has still to fire.
 };
 
 /// A sensor on data: it knows what change made it fire.

@@ -2,11 +2,17 @@
 #include "platform/lumora/sensors/LuSensor.h"
 #include "platform/lumora/nodes/LuGroup.h"
 #include "platform/lumora/nodes/LuTransforms.h"
+#include "platform/lumora/sensors/LuSensorQueue.h"
 #include "tests/host/ToolkitTest.h"
 
+#include <algorithm>
+#include <array>
 #include <functional>
 #include <memory>
+#include <random>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -79,6 +85,88 @@ TEST_F(SensorTest, SensorThatEndsWhileItWaitsIsLeftOut) {
     doomed->schedule();
     LuDelayQueueSensor::processQueue();
     EXPECT_EQ(doomed, nullptr);
+}
+
+/// Sensors that come and go in the queue, beside a plain account of who waits in which order.
+class SensorQueueTest : public ToolkitTest {
+protected:
+    static constexpr std::size_t COUNT = 60;
+
+    SensorQueueTest() {
+        for (std::size_t i = 0; i < COUNT; ++i) {
+            m_functions[i] = [this, i] { fired(i); };
+            m_sensors.push_back(std::make_unique<LuDelayQueueSensor>(&call, &m_functions[i]));
+            m_sensors[i]->setPriority(static_cast<unsigned>(i % 3 + 1));
+        }
+    }
+    std::size_t draw(std::size_t end) { return m_random() % end; }
+
+    void schedule(std::size_t i) {
+        m_sensors[i]->schedule();
+        if (!isWaiting(i))
+            m_waiting.push_back(i);
+    }
+    void unschedule(std::size_t i) {
+        m_sensors[i]->unschedule();
+        std::erase(m_waiting, i);
+        std::erase(m_toFire, i);
+    }
+    bool isWaiting(std::size_t i) const {
+        return std::ranges::count(m_waiting, i) + std::ranges::count(m_toFire, i) > 0;
+    }
+    void changeAny() {
+        if (draw(2) == 0)
+            schedule(draw(COUNT));
+        else
+            unschedule(draw(COUNT));
+    }
+
+    void process() {
+        m_toFire = std::exchange(m_waiting, {});
+        std::ranges::stable_sort(m_toFire, {}, [](std::size_t i) { return i % 3; });
+        LuDelayQueueSensor::processQueue();
+        EXPECT_TRUE(m_toFire.empty());
+    }
+    void fired(std::size_t i) {
+        ASSERT_FALSE(m_toFire.empty());
+        EXPECT_EQ(m_toFire.front(), i);
+        m_toFire.erase(m_toFire.begin());
+        for (std::size_t changes = draw(4); changes > 0; --changes)
+            changeAny();
+    }
+    void check() {
+        EXPECT_EQ(LuSensorQueue::isEmpty(), m_waiting.empty());
+        for (std::size_t i = 0; i < COUNT; ++i)
+            EXPECT_EQ(m_sensors[i]->isScheduled(), isWaiting(i)) << "sensor " << i;
+    }
+
+    std::mt19937 m_random{3};
+    std::array<Function, COUNT> m_functions;
+    std::vector<std::unique_ptr<LuDelayQueueSensor>> m_sensors;
+    std::vector<std::size_t> m_waiting; ///< For the next round.
+    std::vector<std::size_t> m_toFire;  ///< In this one.
+};
+
+TEST_F(SensorQueueTest, RandomComingAndLeaving_firesWhoWaitsInOrder) {
+    for (int round = 0; round < 200; ++round) {
+        for (std::size_t changes = draw(200); changes > 0; --changes)
+            changeAny();
+        check();
+        process();
+        check();
+    }
+}
+
+TEST_F(SensorQueueTest, AllThatWaitMayLeaveInAnyOrder) {
+    for (const std::size_t step : {std::size_t{1}, std::size_t{7}, COUNT - 1}) {
+        for (std::size_t i = 0; i < COUNT; ++i)
+            schedule(i);
+        for (std::size_t i = 0; i < COUNT; ++i)
+            unschedule(i * step % COUNT);
+        check();
+        EXPECT_TRUE(LuSensorQueue::isEmpty());
+        process();
+    }
 }
 
 TEST_F(SensorTest, NotificationOffKeepsSensorsSilent) {
