@@ -40,11 +40,16 @@ LuGlyphMetrics LuCachedFontFace::loadMetrics(char32_t character) const {
 }
 
 const LuGlyphMetrics& LuCachedFontFace::getGlyphMetrics(char32_t character) const {
+    if (character < ASCII_COUNT && m_isAsciiLoaded[character])
+        return m_asciiMetrics[character];
+    return findGlyphMetrics(character);
+}
+
+/// Apart, so that the short way above saves no registers for the long one.
+[[gnu::noinline]] const LuGlyphMetrics& LuCachedFontFace::findGlyphMetrics(char32_t character) const {
     if (character < ASCII_COUNT) {
-        if (!m_isAsciiLoaded[character]) {
-            m_asciiMetrics[character] = loadMetrics(character);
-            m_isAsciiLoaded[character] = true;
-        }
+        m_asciiMetrics[character] = loadMetrics(character);
+        m_isAsciiLoaded[character] = true;
         return m_asciiMetrics[character];
     }
     const auto place = m_otherMetrics.find(character);

@@ -4,7 +4,6 @@
 #include "platform/fonts/LuFontFace.h"
 
 #include <array>
-#include <bitset>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -37,12 +36,13 @@ private:
 
     LuFontSource& getSourceFor(char32_t character) const;
     LuGlyphMetrics loadMetrics(char32_t character) const;
+    const LuGlyphMetrics& findGlyphMetrics(char32_t character) const;
     PixelSize& getPixelSize(int pixels) const;
     int getPixelAdvance(PixelSize& size, char32_t character) const;
 
     LuFontSource& m_source;
     mutable std::array<LuGlyphMetrics, ASCII_COUNT> m_asciiMetrics;
-    mutable std::bitset<ASCII_COUNT> m_isAsciiLoaded;
+    mutable std::array<bool, ASCII_COUNT> m_isAsciiLoaded{};
     mutable std::unordered_map<char32_t, LuGlyphMetrics> m_otherMetrics;
     mutable std::unordered_map<char32_t, LuFontSource*> m_replacements;
     mutable std::vector<std::unique_ptr<PixelSize>> m_pixelSizes; ///< The last one used comes first.

@@ -21,6 +21,9 @@ public:
             m_pathCode = action.m_pathCode;
             m_hasTerminated = action.m_hasTerminated;
             m_steps.swap(action.m_steps);
+            m_viewVolumes.swap(action.m_viewVolumes);
+        } else {
+            action.m_viewVolumes.clear();
         }
         action.m_isWalking = true;
     }
@@ -33,6 +36,7 @@ public:
             m_action.m_state = m_state;
             m_action.m_hasTerminated = m_hasTerminated;
             m_steps.swap(m_action.m_steps);
+            m_viewVolumes.swap(m_action.m_viewVolumes);
         }
     }
     Walk(const Walk&) = delete;
@@ -47,6 +51,7 @@ private:
     PathCode m_pathCode = PathCode::NO_PATH;
     bool m_hasTerminated = false;
     Steps m_steps;
+    ViewVolumes m_viewVolumes;
 };
 
 void LuAction::start() {
@@ -96,6 +101,11 @@ void LuAction::apply(const LuPath& path) {
 void LuAction::apply(const LuPathList& paths) {
     for (int i = 0; i < paths.getLength(); ++i)
         apply(paths[i]);
+}
+
+void LuAction::keepViewVolume(const LvViewVolume& volume) {
+    m_viewVolumes.push_front(volume);
+    m_state.viewVolume.set(m_viewVolumes.front());
 }
 
 LuAction::PathCode LuAction::usePathCode(int& numIndices, const int*& indices) {

@@ -4,6 +4,8 @@
 #include "platform/lumora/actions/LuPath.h"
 #include "platform/lumora/actions/LuTraversalState.h"
 
+#include <forward_list>
+
 class LuNode;
 class LvViewportRegion;
 
@@ -38,6 +40,9 @@ public:
 
     LuTraversalState& getState() { return m_state; }
     const LuTraversalState& getState() const { return m_state; }
+
+    /// Puts what a camera sees in the state.
+    void keepViewVolume(const LvViewVolume& volume);
 
     /// How many separators with a cache stand above the current node; 0 for an action that keeps no caches.
     virtual int getSeparatorDepth() const { return 0; }
@@ -87,6 +92,9 @@ private:
     PathCode codeAt(int pathDepth) const;
     void visitChild(LuNode* child, int index);
 
+    /// What the states of this walk point to. It stays until the next.
+    using ViewVolumes = std::forward_list<LvViewVolume, LuPoolAllocator<LvViewVolume>>;
+    ViewVolumes m_viewVolumes;
     const LuPath* m_path = nullptr;
     int m_pathDepth = 0;
     int m_nextIndex = -1;

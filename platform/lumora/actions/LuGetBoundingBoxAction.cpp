@@ -16,6 +16,8 @@ void LuGetBoundingBoxAction::begin() {
         return;
     m_state = *m_inherited;
     m_state.model = {};
+    if (m_inherited->viewVolume.isSet())
+        keepViewVolume(m_inherited->viewVolume.get());
     // All of it was set outside of what is measured.
     m_state.fontDepth = 0;
     m_state.coordinateDepth = 0;
@@ -29,8 +31,6 @@ const LvBox3f& LuGetBoundingBoxAction::measure(LuNode* node, const LuTraversalSt
 }
 
 void LuGetBoundingBoxAction::extendBy(const LvBox3f& box) {
-    if (box.isEmpty())
-        return;
     LvBox3f transformed = box;
     transformed.transform(m_state.model);
     m_box.extendBy(transformed);

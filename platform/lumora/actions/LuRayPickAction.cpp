@@ -70,7 +70,7 @@ void LuRayPickAction::startRay(const LvLine& line, double nearest, double farthe
 }
 
 void LuRayPickAction::look(const LvViewVolume& volume) {
-    m_state.viewVolume.set(volume);
+    keepViewVolume(volume);
     if (!m_position)
         return;
     LvVec3f nearPoint, farPoint;

@@ -10,18 +10,20 @@ class LuCoordinate3;
 class LuMaterial;
 
 /// What the current camera sees. There is none before the first camera, nor in an action without a viewport.
+/// The volume itself stays with the action (LuAction::keepViewVolume): every separator saves this element,
+/// and hardly one has a camera in it.
 class LuViewVolumeElement {
 public:
-    bool isSet() const { return m_isSet; }
-    const LvViewVolume& get() const { return m_volume; }
-    void set(const LvViewVolume& volume) {
-        m_volume = volume;
-        m_isSet = true;
-    }
+    bool isSet() const { return m_volume != nullptr; }
+
+    /// To be asked for only where one is set.
+    const LvViewVolume& get() const { return *m_volume; }
+
+    /// The volume must live as long as the states that have it.
+    void set(const LvViewVolume& volume) { m_volume = &volume; }
 
 private:
-    LvViewVolume m_volume;
-    bool m_isSet = false;
+    const LvViewVolume* m_volume = nullptr;
 };
 
 /// What the nodes of a traversal hand on to those after them. Plain data: separators save it as a whole and

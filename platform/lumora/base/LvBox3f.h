@@ -36,8 +36,8 @@ public:
     void extendBy(const LvBox3f& box) {
         if (box.isEmpty())
             return;
-        extendBy(box.min);
-        extendBy(box.max);
+        min = {std::min(min.x, box.min.x), std::min(min.y, box.min.y), std::min(min.z, box.min.z)};
+        max = {std::max(max.x, box.max.x), std::max(max.y, box.max.y), std::max(max.z, box.max.z)};
     }
     /// The box round this box seen through an affine matrix. An empty box stays empty.
     void transform(const LvMatrix& matrix);

@@ -71,12 +71,7 @@ float getExtreme(std::string_view word) {
 
 } // namespace
 
-char32_t LuUtf8::next(std::string_view text, std::size_t& position) {
-    const auto lead = static_cast<unsigned char>(text[position]);
-    if (isAscii(lead)) {
-        ++position;
-        return lead;
-    }
+char32_t LuUtf8::nextOfSeveralBytes(std::string_view text, std::size_t& position) {
     char32_t character = 0;
     int length = 0;
     if (!decode(text, position, character, length)) {

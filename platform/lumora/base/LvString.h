@@ -81,11 +81,21 @@ private:
 struct LuUtf8 {
     /// The character that starts at byte `position`, which moves behind it. Bytes that are no valid UTF-8
     /// give U+FFFD one at a time. `position` must lie within the text.
-    static char32_t next(std::string_view text, std::size_t& position);
+    static char32_t next(std::string_view text, std::size_t& position) {
+        // Nearly all text is ASCII.
+        const auto lead = static_cast<unsigned char>(text[position]);
+        if (lead >= 0x80)
+            return nextOfSeveralBytes(text, position);
+        ++position;
+        return lead;
+    }
 
     /// Appends one character.
     static void append(std::string& text, char32_t character);
 
     /// Number of bytes up to the first that is not valid UTF-8; the text's length when all are.
     static std::size_t validLength(std::string_view text);
+
+private:
+    static char32_t nextOfSeveralBytes(std::string_view text, std::size_t& position);
 };

@@ -33,8 +33,7 @@ void LuText3::GLRender(LuGLRenderAction* action) {
     const int shown = parts.getValue();
     action->beginText(state.fontSize);
     for (int i = 0; i < string.getNum(); ++i) {
-        const LvString line = getShownLine(i);
-        const std::string_view text = line.view();
+        const std::string_view text = getShownLine(i);
         const bool isMeasured = justification.getValue() != LEFT;
         float x = -(isMeasured ? getJustifiedPart(getAdvance(face, text)) : 0.0F);
         const float y = static_cast<float>(-i) * spacing.getValue();

@@ -42,7 +42,7 @@ LvViewVolume LuCamera::getViewVolume(float aspect) const {
 
 void LuCamera::doAction(LuAction* action) {
     if (const LvViewportRegion* region = action->getViewport())
-        action->getState().viewVolume.set(getViewVolume(region->getAspectRatio()));
+        action->keepViewVolume(getViewVolume(region->getAspectRatio()));
 }
 
 void LuCamera::rayPick(LuRayPickAction* action) {

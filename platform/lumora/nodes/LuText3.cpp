@@ -50,20 +50,23 @@ float LuText3::getLineWidth(const LuTraversalState& state, const LvString& line)
 }
 
 LvBox3f LuText3::computeLineBox(const LuTraversalState& state, int index) const {
-    const LvString line = getShownLine(index);
+    const std::string_view line = getShownLine(index);
     const LuFontFace& face = findFace(state);
     LvBox3f box;
+    box.min.z = box.max.z = 0;
     float x = 0;
-    for (std::size_t position = 0; position < line.view().size();) {
-        const LuGlyphMetrics& glyph = face.getGlyphMetrics(LuUtf8::next(line.view(), position));
+    for (std::size_t position = 0; position < line.size();) {
+        const LuGlyphMetrics& glyph = face.getGlyphMetrics(LuUtf8::next(line, position));
         if (!glyph.isEmpty) {
-            box.extendBy(LvVec3f(x + glyph.minX, glyph.minY, 0));
-            box.extendBy(LvVec3f(x + glyph.maxX, glyph.maxY, 0));
+            box.min.x = std::min(box.min.x, x + glyph.minX);
+            box.min.y = std::min(box.min.y, glyph.minY);
+            box.max.x = std::max(box.max.x, x + glyph.maxX);
+            box.max.y = std::max(box.max.y, glyph.maxY);
         }
         x += glyph.advance;
     }
     if (box.isEmpty())
-        return box;
+        return {};
     const LvVec3f offset(-getJustifiedPart(x), static_cast<float>(-index) * spacing.getValue(), 0);
     return {(box.min + offset) * state.fontSize, (box.max + offset) * state.fontSize};
 }

@@ -32,8 +32,9 @@ protected:
     void intersect(const LuTraversalState& state, const LuPickRay& ray, LuPickHit& hit) const override;
     int getInheritedDepth(const LuTraversalState& state) const override;
 
-    /// Called with each line before it is measured or drawn; a subclass may show something else instead.
-    virtual LvString getShownLine(int index) const { return string[index]; }
+    /// Called with each line before it is measured or drawn; a subclass may show something else instead. The
+    /// text must stay until the next line is asked for.
+    virtual std::string_view getShownLine(int index) const { return string[index].view(); }
 
 private:
     /// The advance of a line in em units, and how much of it stands left of x 0.

@@ -74,7 +74,17 @@ LvMatrix LuTransform::getMatrix() const {
     return LvMatrix::translation(moved + middle) * linear * LvMatrix::translation(-middle);
 }
 
-void LuTransform::doAction(LuAction* action) { multiply(action, getMatrix()); }
+void LuTransform::doAction(LuAction* action) {
+    const bool isTurned = rotation.getValue() != LvRotation() || scaleOrientation.getValue() != LvRotation();
+    if (isTurned || center.getValue() != LvVec3f()) {
+        multiply(action, getMatrix());
+        return;
+    }
+    // Nearly all of a dialog's are of this kind.
+    LvMatrix& model = action->getState().model;
+    model.translateBy(translation.getValue());
+    model.scaleBy(scaleFactor.getValue());
+}
 
 LuMatrixTransform::LuMatrixTransform() {
     LuNodeConstructor constructor(s_class, this);

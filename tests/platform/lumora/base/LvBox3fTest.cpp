@@ -58,6 +58,24 @@ TEST(LvBox3f, translationAndScale_moveTheEnds) {
     EXPECT_EQ(box, LvBox3f({8, 18, 30}, {12, 20, 30}));
 }
 
+TEST(LvBox3f, numbersThatAreNotFinite_spoilNoOtherBox) {
+    const float infinity = std::numeric_limits<float>::infinity();
+    const float none = std::numeric_limits<float>::quiet_NaN();
+    const LvBox3f unit({0, 0, 0}, {1, 1, 1});
+
+    LvBox3f noNumber({none, 0, 0}, {none, 1, 1});
+    noNumber.transform(LvMatrix::translation({1, 2, 3}));
+    LvBox3f box = unit;
+    box.extendBy(noNumber);
+    EXPECT_EQ(box, unit);
+
+    // Nothing times infinity is no number: the other axes say nothing.
+    LvBox3f endless({-infinity, 0, 0}, {infinity, 1, 1});
+    endless.transform(LvMatrix::translation({1, 2, 3}));
+    box.extendBy(endless);
+    EXPECT_EQ(box, LvBox3f({-infinity, 0, 0}, {infinity, 1, 1}));
+}
+
 TEST(LvBox3f, randomMatrices_giveTheBoxRoundTheCorners) {
     std::mt19937 generator(5);
     std::uniform_real_distribution<float> number(-3, 3);

@@ -151,7 +151,7 @@ TEST_F(TextPictureTest, textSeenFromNear_hasRoundCurves) {
 /// Shows stars.
 class HiddenText : public LuText3 {
 protected:
-    LvString getShownLine(int) const override { return "***"; }
+    std::string_view getShownLine(int) const override { return "***"; }
 };
 
 TEST_F(TextPictureTest, subclass_showsWhatItSays) {

@@ -78,6 +78,43 @@ TEST_F(BoundingBoxTest, TransformTurnsAboutItsCenter) {
     expectBox(measure(root.get()), {-3, 4, -1}, {1, 6, 1});
 }
 
+TEST_F(BoundingBoxTest, TransformDoesWhatItsMatrixDoes) {
+    struct {
+        LvVec3f translation;
+        LvRotation rotation;
+        LvVec3f scale;
+        LvRotation orientation;
+        LvVec3f center;
+    } const cases[] = {
+        {{1, 2, 3}, {}, {1, 1, 1}, {}, {}},
+        {{1, 2, 3}, {}, {2, -3, 0}, {}, {}},
+        {{1, 2, 3}, {}, {2, -3, 0}, {}, {4, 5, 6}},
+        {{1, 2, 3}, LvRotation({1, 1, 0}, 0.5F), {2, 3, 1}, {}, {}},
+        {{1, 2, 3}, {}, {2, 3, 1}, LvRotation({0, 0, 1}, 0.5F), {}},
+    };
+    for (const auto& each : cases) {
+        const Held<LuGroup> root;
+        auto* first = new LuRotation;
+        first->rotation.setValue(LvRotation(LvVec3f(0, 1, 1), 0.3F));
+        auto* transform = new LuTransform;
+        transform->translation.setValue(each.translation);
+        transform->rotation.setValue(each.rotation);
+        transform->scaleFactor.setValue(each.scale);
+        transform->scaleOrientation.setValue(each.orientation);
+        transform->center.setValue(each.center);
+        root->addChild(first);
+        root->addChild(transform);
+        root->addChild(new LuCube);
+        const LvBox3f box = measure(root.get());
+
+        auto* matrix = new LuMatrixTransform;
+        matrix->matrix.setValue(transform->getMatrix());
+        root->replaceChild(transform, matrix);
+        const LvBox3f expected = measure(root.get());
+        expectBox(box, expected.min, expected.max);
+    }
+}
+
 TEST_F(BoundingBoxTest, SeparatorKeepsItsStateToItself) {
     const Held<LuGroup> root;
     auto* separator = new LuSeparator;

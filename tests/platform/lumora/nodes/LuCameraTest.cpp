@@ -71,6 +71,45 @@ TEST_F(CameraTest, SeparatorKeepsItsCameraToItself) {
     EXPECT_FALSE(action.getState().viewVolume.isSet());
 }
 
+TEST_F(CameraTest, CameraIsBackBehindASeparatorWithAnother) {
+    const Held<LuGroup> root;
+    auto* outer = new LuOrthographicCamera;
+    outer->height.setValue(6);
+    auto* separator = new LuSeparator;
+    separator->addChild(new LuPerspectiveCamera);
+    root->addChild(outer);
+    root->addChild(separator);
+    LookAction action(LvViewportRegion(200, 100));
+    for (int i = 0; i < 2; ++i) {
+        action.apply(root.get());
+        ASSERT_TRUE(action.getState().viewVolume.isSet());
+        EXPECT_EQ(action.getState().viewVolume.get().getNearSize(), LvVec2f(12, 6));
+    }
+}
+
+/// Applies the action that has come to it to another scene.
+class NestedNode : public LuGroup {
+public:
+    explicit NestedNode(LuNode* other) : m_other(other) {}
+    void doAction(LuAction* action) override { action->apply(m_other); }
+
+private:
+    LuNode* m_other;
+};
+
+TEST_F(CameraTest, CameraIsBackBehindAWalkWithinTheWalk) {
+    const Held<LuPerspectiveCamera> inner;
+    const Held<LuGroup> root;
+    auto* outer = new LuOrthographicCamera;
+    outer->height.setValue(6);
+    root->addChild(outer);
+    root->addChild(new NestedNode(inner.get()));
+    LookAction action(LvViewportRegion(200, 100));
+    action.apply(root.get());
+    ASSERT_TRUE(action.getState().viewVolume.isSet());
+    EXPECT_EQ(action.getState().viewVolume.get().getNearSize(), LvVec2f(12, 6));
+}
+
 TEST_F(CameraTest, ViewAllFillsTheRegionWithTheScene) {
     const Held<LuSeparator> scene;
     auto* translation = new LuTranslation;
