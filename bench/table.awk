@@ -64,7 +64,7 @@ END {
     for (i = 1; i <= 3; i++)
         compare("first 3D build, ns per button", "panelix-build-3d", counts[i], "qt-load", counts[i], 0.75)
     compare("build and first frame, ns a button", "panelix-first-frame", 1000, "qt-load", 1000, 1)
-    compare("end of a dialog, growth", "panelix-destroy", 10000, "panelix-destroy", 100, 2.5)
+    compare("end of a dialog, growth", "panelix-destroy", 10000, "panelix-destroy", 1000, 1.5)
     for (i = 1; i <= 3; i++)
         compare("cold bounding box, ns per box", "panelix-bbox-cold", counts[i], "limit-bbox", counts[i], 4)
     for (i = 1; i <= 3; i++)
