@@ -81,20 +81,19 @@ void LuAction::apply(LuNode* node) {
     node->unref();
 }
 
-void LuAction::apply(const LuPath& path) {
+/// The path is a copy: the traversal may change what it was made from.
+void LuAction::apply(LuPath path) {
     if (path.getLength() == 0)
         return;
-    // The traversal may change what the path was made from.
-    const LuPath held = path;
     const Walk walk(*this);
-    m_path = &held;
+    m_path = &path;
     m_pathDepth = 0;
     m_pathCode = codeAt(0);
     start();
     if (m_keepsSteps)
-        m_steps.push_back({held.getHead(), -1});
-    held.getHead()->noteVisit();
-    visit(held.getHead());
+        m_steps.push_back({path.getHead(), -1});
+    path.getHead()->noteVisit();
+    visit(path.getHead());
     end();
 }
 

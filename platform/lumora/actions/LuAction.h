@@ -29,7 +29,7 @@ public:
 
     /// Starts at a node. It is referenced meanwhile.
     void apply(LuNode* node);
-    void apply(const LuPath& path);
+    void apply(LuPath path);
     void apply(const LuPathList& paths);
 
     PathCode getPathCode() const { return m_pathCode; }

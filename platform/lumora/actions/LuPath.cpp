@@ -29,14 +29,6 @@ void LuPath::truncate(int length) {
     m_numPublic = -1;
 }
 
-int LuPath::getLength() const {
-    return m_numPublic >= 0 && m_numPublic < getFullLength() ? m_numPublic : getFullLength();
-}
-
-LuNode* LuPath::getNode(int depth) const {
-    return depth >= 0 && depth < getLength() ? m_steps[static_cast<std::size_t>(depth)].node : nullptr;
-}
-
 bool LuPath::containsNode(const LuNode* node) const {
     for (int i = 0; i < getLength(); ++i) {
         if (getNode(i) == node)

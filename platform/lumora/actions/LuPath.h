@@ -40,13 +40,17 @@ public:
     void truncate(int length);
 
     /// The number of nodes, up to where setNumPublic has cut.
-    int getLength() const;
+    int getLength() const {
+        return m_numPublic >= 0 && m_numPublic < getFullLength() ? m_numPublic : getFullLength();
+    }
     int getFullLength() const { return static_cast<int>(m_steps.size()); }
     LuNode* getHead() const { return getNode(0); }
     LuNode* getTail() const { return getNode(getLength() - 1); }
 
     /// Null outside the path.
-    LuNode* getNode(int depth) const;
+    LuNode* getNode(int depth) const {
+        return depth >= 0 && depth < getLength() ? m_steps[static_cast<std::size_t>(depth)].node : nullptr;
+    }
 
     /// The place of a node in the one before it.
     int getIndex(int depth) const { return m_steps[static_cast<std::size_t>(depth)].index; }

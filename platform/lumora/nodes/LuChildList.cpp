@@ -41,7 +41,10 @@ void LuChildList::insert(LuNode* child, int index) {
     connect(child);
     if (m_children.empty())
         m_children.reserve(USUAL_LENGTH);
-    m_children.insert(m_children.begin() + std::clamp(index, 0, getLength()), child);
+    if (index >= getLength())
+        m_children.push_back(child);
+    else
+        m_children.insert(m_children.begin() + std::max(index, 0), child);
     m_owner->startNotify();
 }
 

@@ -102,15 +102,14 @@ DrawingObject* findSelectedFont(HDC dc) {
     return font;
 }
 
-BOOL measure(HDC dc, const std::wstring& text, SIZE* size) {
+BOOL measure(HDC dc, std::string_view text, SIZE* size) {
     const DrawingObject* font = findSelectedFont(dc);
     if (!font || !size)
         return FALSE;
     *size = {0, 0};
     if (text.empty())
         return TRUE;
-    const LuPixelExtent extent =
-        font->face->getTextExtent(LvString::fromWide(text).view(), getEmPixels(*font));
+    const LuPixelExtent extent = font->face->getTextExtent(text, getEmPixels(*font));
     *size = {extent.width, extent.height};
     return TRUE;
 }
@@ -229,7 +228,12 @@ BOOL GetTextExtentPoint32A(HDC dc, LPCSTR text, int length, SIZE* size) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    return measure(dc, text ? widenAnsi(text, length) : std::wstring(), size);
+    const std::string_view bytes(text ? text : "", text ? static_cast<std::size_t>(length) : 0);
+    // Most texts are plain ASCII, which needs no conversion.
+    const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    if (std::all_of(bytes.begin(), bytes.end(), isAscii))
+        return measure(dc, bytes, size);
+    return measure(dc, LvString::fromWide(widenAnsi(text, length)).view(), size);
 }
 
 BOOL GetTextExtentPoint32W(HDC dc, LPCWSTR text, int length, SIZE* size) {
@@ -237,7 +241,8 @@ BOOL GetTextExtentPoint32W(HDC dc, LPCWSTR text, int length, SIZE* size) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    return measure(dc, text ? std::wstring(text, static_cast<std::size_t>(length)) : std::wstring(), size);
+    const std::wstring_view wide(text ? text : L"", text ? static_cast<std::size_t>(length) : 0);
+    return measure(dc, LvString::fromWide(wide).view(), size);
 }
 
 BOOL GetTextMetricsA(HDC dc, TEXTMETRICA* metrics) {
