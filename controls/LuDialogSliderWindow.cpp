@@ -147,7 +147,8 @@ void LuDialogSlider::changeFinishCallback() {
 
 void LuDialogSlider::changeBarColors() {
     if (m_customSlider)
-        m_customSlider->setBarColors(colors.getValues(), shadedColors.getValue());
+        m_customSlider->setBarColors({colors.getValues().begin(), colors.getValues().end()},
+                                     shadedColors.getValue());
 }
 
 /// What the label takes from the width.

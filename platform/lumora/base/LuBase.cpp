@@ -74,12 +74,6 @@ const std::vector<LuBase*>& LuBase::getNamed(LvName name) {
     return found == table.end() ? s_none : found->second;
 }
 
-bool LuBase::enableNotify(bool isEnabled) {
-    const bool before = m_isNotifyEnabled;
-    m_isNotifyEnabled = isEnabled;
-    return before;
-}
-
 void LuBase::tellOfChange(LuField* field) {
     LuNotification notification{this, field, ++s_lastStamp, false};
     notify(notification);
@@ -88,7 +82,7 @@ void LuBase::tellOfChange(LuField* field) {
 int LuBase::s_numListeners = 0;
 
 void LuBase::notify(LuNotification& notification) {
-    if (m_notifyStamp == notification.stamp || hasAllBeenTold())
+    if (m_notifyStamp == notification.stamp || !tellsOfChanges())
         return;
     m_notifyStamp = notification.stamp;
     m_hasToldAbove = true;

@@ -5,6 +5,7 @@
 #include "platform/lumora/base/LuPool.h"
 #include "platform/lumora/base/LuType.h"
 
+#include <utility>
 #include <vector>
 
 class LuField;
@@ -75,14 +76,17 @@ public:
 
     /// Switches notification on or off; the value before is the result. While it is off no sensor fires for
     /// a change in this object, or below it by way of this object. Cached results are dropped all the same.
-    bool enableNotify(bool isEnabled);
+    bool enableNotify(bool isEnabled) { return std::exchange(m_isNotifyEnabled, isEnabled); }
     bool isNotifyEnabled() const { return m_isNotifyEnabled; }
 
     /// Tells all observers that this object, or with `field` this field of it, has changed.
     void startNotify(LuField* field = nullptr) {
-        if (!hasAllBeenTold())
+        if (tellsOfChanges())
             tellOfChange(field);
     }
+
+    /// False as long as all that lies above knows of a change already; see notify.
+    bool tellsOfChanges() const { return !m_hasToldAbove || s_numListeners > 0; }
 
     /// Takes a change in from below and hands it on. Called by the fields and lists that hold objects.
     ///
@@ -141,14 +145,15 @@ protected:
     virtual void invalidateCaches() {}
 
 private:
-    /// Whether all that lies above knows of a change already.
-    bool hasAllBeenTold() const { return m_hasToldAbove && s_numListeners == 0; }
     void tellOfChange(LuField* field);
 
     LvName m_name;
     LuObserverList m_observers;
     std::uint32_t m_notifyStamp = 0;
     bool m_isNotifyEnabled = true;
-    mutable bool m_hasToldAbove = false; ///< Since the last traversal.
+
+    /// Since the last traversal. So has a new object: nobody has computed anything from it yet, and the list
+    /// or field that takes it tells of that itself.
+    mutable bool m_hasToldAbove = true;
     static int s_numListeners;
 };

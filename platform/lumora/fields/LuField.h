@@ -42,7 +42,7 @@ public:
     LuField* getConnectedField() const;
 
     /// Tells of a change without changing anything.
-    void touch() { valueChanged(false); }
+    inline void touch();
 
     /// Reads the value from a file, writes it to one. False on a failure, which has been reported.
     virtual bool readValue(LuInput* in) = 0;
@@ -82,12 +82,7 @@ protected:
     explicit LuField(bool holdsNodes = false) : m_holdsNodes(holdsNodes) {}
 
     /// To be called after each change of the value.
-    void valueChanged(bool clearDefault = true) {
-        if (clearDefault)
-            m_isDefault = false;
-        if (m_container || !m_observers.isEmpty())
-            tellOfChange(nullptr);
-    }
+    inline void valueChanged(bool clearDefault = true);
 
     /// The same as if a sensor, which may be null, were not attached.
     void valueChangedUnheardBy(LuSensor* sensor) {

@@ -40,7 +40,7 @@ LuFieldData::~LuFieldData() {
 
 void LuFieldData::addField(const LuFieldContainer* container, LvName name, const LuField* field) {
     const auto offset = reinterpret_cast<const char*>(field) - reinterpret_cast<const char*>(container);
-    m_rows.push_back({name, offset});
+    m_rows.push_back({name, offset, nullptr});
 }
 
 LuField* LuFieldData::getField(const LuFieldContainer* container, int index) const {
@@ -81,6 +81,13 @@ const LuEnumData* LuFieldData::getEnumData(LvName typeName) const {
         return data->getTypeName() == typeName;
     });
     return found == m_enums.rend() ? nullptr : *found;
+}
+
+const LuEnumData* LuFieldData::getEnumOfField(const LuFieldContainer* container, const LuField* field) const {
+    const auto offset = reinterpret_cast<const char*>(field) - reinterpret_cast<const char*>(container);
+    const auto found =
+        std::find_if(m_rows.begin(), m_rows.end(), [offset](const Row& row) { return row.offset == offset; });
+    return found == m_rows.end() ? nullptr : found->enums;
 }
 
 LuType LuFieldContainer::getClassTypeId() {

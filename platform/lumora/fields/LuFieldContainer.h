@@ -49,6 +49,11 @@ public:
     void addEnumValue(LvName typeName, LvName name, int value);
     const LuEnumData* getEnumData(LvName typeName) const;
 
+    /// Says which enum the field that was added last is of; and tells it of a field of an object. Null for
+    /// other fields.
+    void setEnumOfLastField(LvName typeName) { m_rows.back().enums = getEnumData(typeName); }
+    const LuEnumData* getEnumOfField(const LuFieldContainer* container, const LuField* field) const;
+
     /// Reads fields by name and value for as long as words of the file name fields of the class. A word that
     /// names none is left to the caller, who may find a child there; with `errorOnUnknownField` it is a
     /// failure.
@@ -64,9 +69,10 @@ private:
     struct Row {
         LvName name;
         std::ptrdiff_t offset;
+        const LuEnumData* enums = nullptr; ///< Of an enum field.
     };
     std::vector<Row> m_rows;
-    std::vector<LuEnumData*> m_enums; ///< Those of the parent too: enum fields keep pointers to their own.
+    std::vector<LuEnumData*> m_enums; ///< Those of the parent too.
     std::size_t m_firstOwnEnum = 0;
 };
 
@@ -100,3 +106,13 @@ public:
     bool readInstance(LuInput* in, unsigned short flags) override;
     void addWriteReference(LuOutput* out, bool isFromField = false) override;
 };
+
+inline void LuField::touch() { valueChanged(false); }
+
+inline void LuField::valueChanged(bool clearDefault) {
+    if (clearDefault)
+        m_isDefault = false;
+    // Most fields are set while an object is set up, when nobody has to be told.
+    if (!m_observers.isEmpty() || (m_container && m_container->tellsOfChanges()))
+        tellOfChange(nullptr);
+}

@@ -18,14 +18,12 @@ void LuSFValue<T>::copyFrom(const LuField& other) {
 }
 
 template <class T>
-void LuMFValue<T>::set1Value(int index, const T& value) {
+void LuMFValue<T>::set1Value(int index, T value) {
     if (index < 0)
         return;
-    // The value may be one of this list, which moves when it grows.
-    T copy(value);
     if (index >= getNum())
         m_values.resize(static_cast<std::size_t>(index) + 1);
-    m_values[static_cast<std::size_t>(index)] = std::move(copy);
+    m_values[static_cast<std::size_t>(index)] = std::move(value);
     valueChanged();
 }
 
@@ -39,7 +37,8 @@ template <class T>
 void LuMFValue<T>::insertSpace(int index, int count) {
     if (count <= 0)
         return;
-    m_values.insert(m_values.begin() + std::clamp(index, 0, getNum()), static_cast<std::size_t>(count), T{});
+    m_values.insertSpace(static_cast<std::size_t>(std::clamp(index, 0, getNum())),
+                         static_cast<std::size_t>(count));
     valueChanged();
 }
 
@@ -47,8 +46,8 @@ template <class T>
 void LuMFValue<T>::deleteValues(int index, int count) {
     const int first = std::clamp(index, 0, getNum());
     const int left = getNum() - first;
-    const int last = first + (count < 0 ? left : std::min(count, left));
-    m_values.erase(m_values.begin() + first, m_values.begin() + last);
+    const int removed = count < 0 ? left : std::min(count, left);
+    m_values.erase(static_cast<std::size_t>(first), static_cast<std::size_t>(removed));
     valueChanged();
 }
 
@@ -60,8 +59,16 @@ bool LuMFValue<T>::isSame(const LuField& other) const {
 
 template <class T>
 void LuMFValue<T>::copyFrom(const LuField& other) {
-    if (const auto* same = dynamic_cast<const LuMFValue*>(&other))
-        setValues(same->m_values);
+    if (const auto* same = dynamic_cast<const LuMFValue*>(&other)) {
+        m_values.assignAll(same->m_values);
+        valueChanged();
+    }
+}
+
+const LuEnumData* LuSFEnum::getEnums() const {
+    const LuFieldContainer* const container = getContainer();
+    const LuFieldData* const data = container ? container->getFieldData() : nullptr;
+    return data ? data->getEnumOfField(container, this) : nullptr;
 }
 
 bool LuSFEnum::isSame(const LuField& other) const {

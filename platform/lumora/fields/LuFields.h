@@ -5,6 +5,7 @@
 #include "platform/lumora/base/LvMatrix.h"
 #include "platform/lumora/base/LvVec.h"
 #include "platform/lumora/fields/LuFieldContainer.h"
+#include "platform/lumora/fields/LuValueList.h"
 
 #include <cstdint>
 
@@ -59,21 +60,24 @@ template <class T>
 class LuMFValue : public LuField {
 public:
     LuMFValue() = default;
-    explicit LuMFValue(const T& value) : m_values{value} {}
+    explicit LuMFValue(const T& value) : m_values(value) {}
 
     int getNum() const { return static_cast<int>(m_values.size()); }
 
     /// The value at an index, which must lie within the list.
     const T& operator[](int index) const { return m_values[static_cast<std::size_t>(index)]; }
-    const std::vector<T>& getValues() const { return m_values; }
+    const LuValueList<T>& getValues() const { return m_values; }
 
     /// Makes this the only value.
-    void setValue(const T& value) { setValues({value}); }
-    void setValues(std::vector<T> values) {
-        m_values = std::move(values);
+    void setValue(const T& value) {
+        m_values.assign(value);
         valueChanged();
     }
-    void set1Value(int index, const T& value);
+    void setValues(const std::vector<T>& values) {
+        m_values.assignAll(values);
+        valueChanged();
+    }
+    void set1Value(int index, T value);
     void setNum(int length);
 
     /// Opens a gap of `count` default values before the value at `index`.
@@ -89,7 +93,7 @@ public:
     void copyFrom(const LuField& other) override;
 
 private:
-    std::vector<T> m_values;
+    LuValueList<T> m_values;
 };
 
 /// The path of a file; kept apart from other texts so that tools can tell.
@@ -157,9 +161,8 @@ public:
         setValue(value);
         return *this;
     }
-    /// The names; they belong to the class's LuFieldData.
-    void setEnums(const LuEnumData* enums) { m_enums = enums; }
-    const LuEnumData* getEnums() const { return m_enums; }
+    /// The names, which belong to the class's LuFieldData. Null for a field of no object.
+    const LuEnumData* getEnums() const;
 
     const char* getTypeName() const override { return "SFEnum"; }
     bool readValue(LuInput* in) override;
@@ -169,7 +172,6 @@ public:
 
 private:
     int m_value = 0;
-    const LuEnumData* m_enums = nullptr;
 };
 
 /// A field that holds a node, with a reference, or none. A change in the node counts as a change of the

@@ -215,7 +215,7 @@ bool LuMFValue<T>::readValue(LuInput* in) {
     }
     if (!in->endValue())
         return false;
-    setValues(std::move(values));
+    setValues(values);
     return true;
 }
 
@@ -258,8 +258,9 @@ bool LuSFEnum::readValue(LuInput* in) {
     }
     const std::string_view word = in->readWord();
     const LvName name = LvName::findExisting(word);
-    if (!m_enums || name.isEmpty() || !m_enums->findValue(name, value))
-        return reportUnknownName(in, word, m_enums);
+    const LuEnumData* const enums = getEnums();
+    if (!enums || name.isEmpty() || !enums->findValue(name, value))
+        return reportUnknownName(in, word, enums);
     if (!in->endValue())
         return false;
     setValue(value);
@@ -268,7 +269,8 @@ bool LuSFEnum::readValue(LuInput* in) {
 
 void LuSFEnum::writeValue(LuOutput* out) const {
     LvName name;
-    const bool hasName = !out->isBinary() && m_enums && m_enums->findName(m_value, name);
+    const LuEnumData* const enums = out->isBinary() ? nullptr : getEnums();
+    const bool hasName = enums && enums->findName(m_value, name);
     if (hasName)
         out->writeRaw(name.view());
     else

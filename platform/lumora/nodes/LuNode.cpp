@@ -90,30 +90,15 @@ int LuNode::getNextActionMethodIndex() { return s_nextActionMethodIndex; }
 
 void LuNode::incNextActionMethodIndex() { ++s_nextActionMethodIndex; }
 
-LuNodeConstructor::LuNodeConstructor(LuNodeClass& nodeClass, LuFieldContainer* container)
-    : m_class(nodeClass), m_container(container), m_wasNotifyEnabled(container->enableNotify(false)) {
-    if (!m_class.fieldData)
-        m_class.fieldData = new LuFieldData(m_class.parentFieldData ? *m_class.parentFieldData : nullptr);
-    else
-        m_class.firstInstance = false;
+void LuNodeConstructor::beginClass() {
+    m_class.fieldData = new LuFieldData(m_class.parentFieldData ? *m_class.parentFieldData : nullptr);
 }
 
-LuNodeConstructor::~LuNodeConstructor() { m_container->enableNotify(m_wasNotifyEnabled); }
-
-void LuNodeConstructor::field(const char* name, LuField& field) {
-    field.setContainer(m_container);
-    if (m_class.firstInstance)
-        m_class.fieldData->addField(m_container, name, &field);
-}
-
-void LuNodeConstructor::enumField(const char* name, LuSFEnum& enumField, const char* typeName,
-                                  std::initializer_list<std::pair<const char*, int>> values) {
-    field(name, enumField);
-    if (m_class.firstInstance) {
-        for (const auto& [valueName, value] : values)
-            m_class.fieldData->addEnumValue(typeName, valueName, value);
-    }
-    enumField.setEnums(m_class.fieldData->getEnumData(typeName));
+void LuNodeConstructor::describeEnum(const char* typeName,
+                                     std::initializer_list<std::pair<const char*, int>> values) {
+    for (const auto& [name, value] : values)
+        m_class.fieldData->addEnumValue(typeName, name, value);
+    m_class.fieldData->setEnumOfLastField(typeName);
 }
 
 void luInitNodeClass(LuNodeClass& nodeClass, LuType parent, LuFieldData** parentFieldData,

@@ -113,19 +113,36 @@ struct LuNodeClass {
 /// container of each field on every one. Notification is off while it lives.
 class LuNodeConstructor {
 public:
-    LuNodeConstructor(LuNodeClass& nodeClass, LuFieldContainer* container);
-    ~LuNodeConstructor();
+    LuNodeConstructor(LuNodeClass& nodeClass, LuFieldContainer* container)
+        : m_class(nodeClass), m_container(container), m_wasNotifyEnabled(container->enableNotify(false)) {
+        if (m_class.fieldData)
+            m_class.firstInstance = false;
+        else
+            beginClass();
+    }
+    ~LuNodeConstructor() { m_container->enableNotify(m_wasNotifyEnabled); }
     LuNodeConstructor(const LuNodeConstructor&) = delete;
     LuNodeConstructor& operator=(const LuNodeConstructor&) = delete;
 
     /// Adds a field; its default is the value it was constructed with.
-    void field(const char* name, LuField& field);
+    void field(const char* name, LuField& field) {
+        field.setContainer(m_container);
+        if (m_class.firstInstance)
+            m_class.fieldData->addField(m_container, name, &field);
+    }
 
     /// Adds an enum field with the names of its type.
-    void enumField(const char* name, LuSFEnum& field, const char* typeName,
-                   std::initializer_list<std::pair<const char*, int>> values);
+    void enumField(const char* name, LuSFEnum& enumField, const char* typeName,
+                   std::initializer_list<std::pair<const char*, int>> values) {
+        field(name, enumField);
+        if (m_class.firstInstance)
+            describeEnum(typeName, values);
+    }
 
 private:
+    void beginClass();
+    void describeEnum(const char* typeName, std::initializer_list<std::pair<const char*, int>> values);
+
     LuNodeClass& m_class;
     LuFieldContainer* m_container;
     bool m_wasNotifyEnabled;
