@@ -110,7 +110,7 @@ void LuControl::setCurrentFocusedChild(HWND child) {
         top->setCurrentFocusedWidget(child);
 }
 
-void LuControl::createText3D(const char* part, LuTranslation*& translation, LuText3*& text) {
+void LuControl::createText3D(const LuSFNode& part, LuTranslation*& translation, LuText3*& text) {
     translation = new LuTranslation;
     text = new LuText3;
     text->parts = LuText3::FRONT;
@@ -131,7 +131,7 @@ const LvBox3f& LuControl::getBox3D(Text3D& text, LuNode* properties) {
     return text.box;
 }
 
-LuTranslation* LuControl::createCheckMark3D(const char* part) {
+LuTranslation* LuControl::createCheckMark3D(const LuSFNode& part) {
     auto* scale = new LuScale;
     scale->scaleFactor = LvVec3f(CHECK_MARK_SIZE, CHECK_MARK_SIZE, 1);
     auto* translation = new LuTranslation;
@@ -141,11 +141,11 @@ LuTranslation* LuControl::createCheckMark3D(const char* part) {
     return translation;
 }
 
-LuGroup* LuControl::getGroupPart(const char* part) { return static_cast<LuGroup*>(getPart(part, true)); }
+LuGroup* LuControl::getGroupPart(const LuSFNode& part) { return static_cast<LuGroup*>(makePart(part)); }
 
-void LuControl::insertBeforePart(LuNode* node, const char* part, const char* parent) {
+void LuControl::insertBeforePart(LuNode* node, const LuSFNode& part, const LuSFNode& parent) {
     LuGroup* const group = getGroupPart(parent);
-    LuNode* const next = getPart(part, true);
+    LuNode* const next = makePart(part);
     group->insertChild(node, group->findChild(next));
 }
 

@@ -63,21 +63,21 @@ protected:
 
     /// Puts a text, of which only the front shows, behind all that a part holds, and its translation in
     /// front.
-    void createText3D(const char* part, LuTranslation*& translation, LuText3*& text);
-    void createText3D(const char* part, Text3D& text) { createText3D(part, text.translation, text.node); }
+    void createText3D(const LuSFNode& part, LuTranslation*& translation, LuText3*& text);
+    void createText3D(const LuSFNode& part, Text3D& text) { createText3D(part, text.translation, text.node); }
 
     /// Sets the lines of the text as they are. It stays in its place until it is placed anew.
     static void setText3D(Text3D& text, const LvString& string);
     const LvBox3f& getBox3D(Text3D& text, LuNode* properties);
 
     /// Makes a check mark of the unit shapes in a part, and gives the translation of its centre.
-    LuTranslation* createCheckMark3D(const char* part);
+    LuTranslation* createCheckMark3D(const LuSFNode& part);
 
     /// The node of a part as a group; it is made when it isn't there.
-    LuGroup* getGroupPart(const char* part);
+    LuGroup* getGroupPart(const LuSFNode& part);
 
     /// Puts a node in front of a part among the children of the part above that.
-    void insertBeforePart(LuNode* node, const char* part, const char* parent = "geomSwitch");
+    void insertBeforePart(LuNode* node, const LuSFNode& part, const LuSFNode& parent);
 
     /// Moves a text by half its height down, so that it stands in the middle of y 0. `x` is its left end.
     static LvVec3f getTextPlace(float x, const LvBox3f& box);

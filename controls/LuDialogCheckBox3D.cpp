@@ -16,21 +16,21 @@ LuSkin LuDialogCheckBox::s_skin("DialogCheckBox.lum", LuEmbeddedSkin_DialogCheck
 void LuDialogCheckBox::create3DDialogCheckBox() {
     loadFontProperties();
     s_skin.loadOnFirstUse();
-    makeParts({"labelSwitch", "frameSep", "stateSwitch", "onOffStringSep"});
+    makeParts({&labelSwitch, &frameSep, &stateSwitch, &onOffStringSep});
     // The names are interned once and not for each check box.
-    static const std::pair<LvName, LvName> SKIN_PARTS[] = {{"frame", "DialogCheckBoxFrame"},
-                                                           {"labelProp", "DialogTextProperties"},
-                                                           {"stateOff", "DialogCheckBoxStateOff"},
-                                                           {"stateOn", "DialogCheckBoxStateOn"},
-                                                           {"onOffStringProp", "DialogTextProperties"}};
-    for (const auto& [part, node] : SKIN_PARTS)
-        setPartAsDefault(part, node);
+    static const LvName FRAME = "DialogCheckBoxFrame", TEXT_LOOK = "DialogTextProperties",
+                        OFF = "DialogCheckBoxStateOff", ON = "DialogCheckBoxStateOn";
+    setPartAsDefault(frame, FRAME);
+    setPartAsDefault(labelProp, TEXT_LOOK);
+    setPartAsDefault(stateOff, OFF);
+    setPartAsDefault(stateOn, ON);
+    setPartAsDefault(onOffStringProp, TEXT_LOOK);
 
-    createFrame3D("stateSep");
-    m_stateTranslation = createCheckMark3D("stateSep");
+    createFrame3D(stateSep);
+    m_stateTranslation = createCheckMark3D(stateSep);
     createLabel3D();
     change3DLabel();
-    createText3D("onOffStringSep", m_onOffText);
+    createText3D(onOffStringSep, m_onOffText);
     change3DOnOffString();
 
     setSwitchValue(stateSwitch.getValue(), state.getValue() ? 1 : 0);

@@ -27,8 +27,8 @@ LvString keepReturns(const LvString& text) {
 
 void LuDialogLabel::create3DDialogLabel() {
     loadFontProperties();
-    setPartAsDefault("labelProp", "DialogTextProperties");
-    createText3D("labelSep", m_textTranslation, m_text3);
+    setPartAsDefault(labelProp, "DialogTextProperties");
+    createText3D(labelSep, m_textTranslation, m_text3);
     change3DLabel();
     change3DLabelAlignment();
     setBuilt3D(1);

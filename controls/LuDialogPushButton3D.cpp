@@ -12,22 +12,22 @@ LuSkin LuDialogPushButton::s_skin("DialogPushButton.lum", LuEmbeddedSkin_DialogP
 void LuDialogPushButton::create3DDialogPushButton() {
     loadFontProperties();
     s_skin.loadOnFirstUse();
-    makeParts({"labelSwitch", "frameSwitch", "buttonLabelSep"});
+    makeParts({&labelSwitch, &frameSwitch, &buttonLabelSep});
     // The names are interned once and not for each button.
-    static const std::pair<LvName, LvName> SKIN_PARTS[] = {{"labelProp", "DialogTextProperties"},
-                                                           {"released", "DialogPushButtonReleased"},
-                                                           {"pressed", "DialogPushButtonPressed"},
-                                                           {"buttonLabelProp", "DialogTextProperties"}};
-    for (const auto& [part, node] : SKIN_PARTS)
-        setPartAsDefault(part, node);
+    static const LvName TEXT_LOOK = "DialogTextProperties", RELEASED = "DialogPushButtonReleased",
+                        PRESSED = "DialogPushButtonPressed";
+    setPartAsDefault(labelProp, TEXT_LOOK);
+    setPartAsDefault(released, RELEASED);
+    setPartAsDefault(pressed, PRESSED);
+    setPartAsDefault(buttonLabelProp, TEXT_LOOK);
 
-    createFrame3D("buttonLabelSep");
+    createFrame3D(buttonLabelSep);
     createLabel3D();
     change3DLabel();
-    createText3D("buttonLabelSep", m_buttonText);
+    createText3D(buttonLabelSep, m_buttonText);
     change3DButtonLabel();
 
-    setSwitchValue(getGroupPart("frameSwitch"), 0);
+    setSwitchValue(getGroupPart(frameSwitch), 0);
     showLabel3D();
     addStartCallback(startCB3D, nullptr);
     addFinishCallback(finishCB3D, nullptr);
@@ -94,9 +94,9 @@ void LuDialogPushButton::draggerFinishCallback3D() {
 }
 
 void LuDialogPushButton::set3DPressedGeometry(LuNode* node) {
-    getGroupPart("frameSwitch")->replaceChild(0, node);
+    getGroupPart(frameSwitch)->replaceChild(0, node);
 }
 
 void LuDialogPushButton::set3DReleasedGeometry(LuNode* node) {
-    getGroupPart("frameSwitch")->replaceChild(1, node);
+    getGroupPart(frameSwitch)->replaceChild(1, node);
 }

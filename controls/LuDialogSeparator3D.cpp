@@ -12,14 +12,14 @@ LuSkin LuDialogSeparator::s_skin("DialogSeparator.lum", LuEmbeddedSkin_DialogSep
 void LuDialogSeparator::create3DSeparator() {
     loadFontProperties();
     s_skin.loadOnFirstUse();
-    setPartAsDefault("vFrame", "DialogSeparatorVertical");
-    setPartAsDefault("hFrame", "DialogSeparatorHorizontal");
+    setPartAsDefault(vFrame, "DialogSeparatorVertical");
+    setPartAsDefault(hFrame, "DialogSeparatorHorizontal");
     m_frameScale = new LuScale;
-    getGroupPart("frameSep")->insertChild(m_frameScale, 0);
+    getGroupPart(frameSep)->insertChild(m_frameScale, 0);
     setBuilt3D(1);
 }
 
 void LuDialogSeparator::update3DSeparator() {
-    setSwitchValue(getGroupPart("frameSwitch"), m_orientationHorz ? 1 : 0);
+    setSwitchValue(getGroupPart(frameSwitch), m_orientationHorz ? 1 : 0);
     m_frameScale->scaleFactor = getContentSize3D();
 }

@@ -37,24 +37,26 @@ void LuDialogSlider::loadSkins3D() {
 
 void LuDialogSlider::create3DDialogSlider() {
     loadSkins3D();
-    makeParts({"labelSwitch", "checkSwtch", "frameSep", "cursorSep", "edtFrmSwtch", "editTextSep"});
+    makeParts({&labelSwitch, &checkSwtch, &frameSep, &cursorSep, &edtFrmSwtch, &editTextSep});
     // The names are interned once and not for each slider.
-    static const std::pair<LvName, LvName> SKIN_PARTS[] = {{"labelProp", "DialogTextProperties"},
-                                                           {"checkStateOff", "DialogCheckBoxStateOff"},
-                                                           {"checkStateOn", "DialogCheckBoxStateOn"},
-                                                           {"frame", "DialogSliderFrame"},
-                                                           {"cursor", "DialogSliderCursor"},
-                                                           {"valueFrame", "DialogEditTextFrame"},
-                                                           {"editValueFrame", "DialogEditTextEditingFrame"},
-                                                           {"editTextProp", "DialogTextProperties"}};
-    for (const auto& [part, node] : SKIN_PARTS)
-        setPartAsDefault(part, node);
+    static const LvName TEXT_LOOK = "DialogTextProperties", OFF = "DialogCheckBoxStateOff",
+                        ON = "DialogCheckBoxStateOn", FRAME = "DialogSliderFrame",
+                        CURSOR = "DialogSliderCursor", BOX = "DialogEditTextFrame",
+                        EDITED_BOX = "DialogEditTextEditingFrame";
+    setPartAsDefault(labelProp, TEXT_LOOK);
+    setPartAsDefault(checkStateOff, OFF);
+    setPartAsDefault(checkStateOn, ON);
+    setPartAsDefault(frame, FRAME);
+    setPartAsDefault(cursor, CURSOR);
+    setPartAsDefault(valueFrame, BOX);
+    setPartAsDefault(editValueFrame, EDITED_BOX);
+    setPartAsDefault(editTextProp, TEXT_LOOK);
     setSwitchValue(edtFrmSwtch.getValue(), 0);
 
     createLabel3D();
     showLabel3D();
     change3DLabel();
-    m_checkTranslation = createCheckMark3D("checkSep");
+    m_checkTranslation = createCheckMark3D(checkSep);
     showCheck3D();
     createFrame3D();
     createValueBox3D();
@@ -71,17 +73,17 @@ void LuDialogSlider::create3DDialogSlider() {
 
 void LuDialogSlider::createFrame3D() {
     m_sliderTranslation = new LuTranslation;
-    getGroupPart("sliderSep")->insertChild(m_sliderTranslation, 0);
+    getGroupPart(sliderSep)->insertChild(m_sliderTranslation, 0);
     m_frameScale = new LuScale;
-    getGroupPart("frameSep")->insertChild(m_frameScale, 0);
+    getGroupPart(frameSep)->insertChild(m_frameScale, 0);
     m_frameTransform = new LuTransform;
-    insertBeforePart(m_frameTransform, "cursorSep", "sliderSep");
+    insertBeforePart(m_frameTransform, cursorSep, sliderSep);
 
     auto* const scale = new LuScale;
     scale->scaleFactor = LvVec3f(CURSOR_SIZE_3D, CURSOR_SIZE_3D, 1);
     m_cursorOffset = new LuTranslation;
     m_cursorTranslation = new LuTranslation;
-    LuGroup* const cursorGroup = getGroupPart("cursorSep");
+    LuGroup* const cursorGroup = getGroupPart(cursorSep);
     cursorGroup->insertChild(scale, 0);
     cursorGroup->insertChild(m_cursorOffset, 0);
     cursorGroup->insertChild(m_cursorTranslation, 0);
@@ -89,14 +91,14 @@ void LuDialogSlider::createFrame3D() {
 
 void LuDialogSlider::createValueBox3D() {
     m_valueBoxTranslation = new LuTranslation;
-    LuGroup* const group = getGroupPart("edtSwtch");
+    LuGroup* const group = getGroupPart(edtSwtch);
     group->insertChild(m_valueBoxTranslation, 0);
     m_valueFrameScale = new LuScale;
-    getGroupPart("edtFrmSep")->insertChild(m_valueFrameScale, 0);
+    getGroupPart(edtFrmSep)->insertChild(m_valueFrameScale, 0);
     m_valueFrameTransform = new LuTransform;
-    insertBeforePart(m_valueFrameTransform, "editTextSep", "edtSwtch");
+    insertBeforePart(m_valueFrameTransform, editTextSep, edtSwtch);
 
-    createText3D("editTextSep", m_valueTextTranslation, m_valueText3);
+    createText3D(editTextSep, m_valueTextTranslation, m_valueText3);
     change3DEditValue();
 
     // Below the switch: keys reach the slider only while the value box shows.

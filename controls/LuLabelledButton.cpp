@@ -62,13 +62,13 @@ void LuLabelledButton::changeWidgetEnable(int isAllowed) {
     LuLabelledControl::changeWidgetEnable(isAllowed);
 }
 
-void LuLabelledButton::createFrame3D(const char* lifted) {
+void LuLabelledButton::createFrame3D(const LuSFNode& lifted) {
     m_frameScale = new LuScale;
-    getGroupPart("frameSep")->insertChild(m_frameScale, 0);
+    getGroupPart(frameSep)->insertChild(m_frameScale, 0);
     m_frameTranslation = new LuTranslation;
-    insertBeforePart(m_frameTranslation, "frameSep");
+    insertBeforePart(m_frameTranslation, frameSep, geomSwitch);
     m_frameTransform = new LuTransform;
-    insertBeforePart(m_frameTransform, lifted);
+    insertBeforePart(m_frameTransform, lifted, geomSwitch);
 }
 
 void LuLabelledButton::placeFrame3D(float x, const LvVec2i32& size) {

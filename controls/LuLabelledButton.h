@@ -29,7 +29,7 @@ protected:
     void enableWindows(bool isAllowed = true);
 
     /// Makes what stretches the frame, and what lifts the part `lifted` and all behind it onto the frame.
-    void createFrame3D(const char* lifted);
+    void createFrame3D(const LuSFNode& lifted);
 
     /// Gives the frame a place and a size in scene units, and brings what stands on it along.
     void placeFrame3D(float x, const LvVec2i32& size);

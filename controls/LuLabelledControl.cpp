@@ -44,7 +44,7 @@ void LuLabelledControl::changeLabelAlignment() {
     changeLabelVisibility();
 }
 
-void LuLabelledControl::createLabel3D() { createText3D("labelSwitch", m_labelTranslation, m_labelText3); }
+void LuLabelledControl::createLabel3D() { createText3D(labelSwitch, m_labelTranslation, m_labelText3); }
 
 void LuLabelledControl::change3DLabel() {
     if (m_labelText3)

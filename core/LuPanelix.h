@@ -179,7 +179,7 @@ protected:
 
     /// Makes parts, and those above them, in this order, in which their geometry is traversed. To be called
     /// before the skin fills them: what a skin lacks would come after the rest otherwise.
-    void makeParts(std::initializer_list<const char*> parts);
+    void makeParts(std::initializer_list<const LuSFNode*> parts);
 
     /// Whether the press that the dragger works on has hit a part, or something below it.
     bool isPicked(const LuSFNode& part) const;

@@ -65,9 +65,9 @@ void LuPanelix::change3DWidgetEnable(int isParentEnabled) {
     setLook3D(isEnabled ? LuPickStyle::SHAPE : LuPickStyle::UNPICKABLE, isEnabled);
 }
 
-void LuPanelix::makeParts(std::initializer_list<const char*> parts) {
-    for (const char* part : parts)
-        getPart(part, true);
+void LuPanelix::makeParts(std::initializer_list<const LuSFNode*> parts) {
+    for (const LuSFNode* part : parts)
+        makePart(*part);
 }
 
 bool LuPanelix::isPicked(const LuSFNode& part) const {
@@ -105,7 +105,7 @@ void LuPanelix::apply3DParentTranslation() {
     m_parentTranslationNode = new LuTranslation;
     m_parentTranslationNode->ref();
     m_parentTranslationNode->translation.setValue(m_parentTranslation);
-    static_cast<LuGroup*>(getPart("geomSeparator", true))->insertChild(m_parentTranslationNode, 0);
+    static_cast<LuGroup*>(makePart(geomSeparator))->insertChild(m_parentTranslationNode, 0);
 }
 
 void LuPanelix::apply3DTranslation(LuNode* node, float& depth, LvVec3f& translation) {
@@ -130,10 +130,10 @@ void LuPanelix::undoTransformMatrix(LuNode* node, LuTransform* transform) {
     m_searchAction->setInterest(LuSearchAction::LAST);
     m_searchAction->setType(LuNode::getClassTypeId(), true);
     m_searchAction->apply(node);
-    const LuPath* path = m_searchAction->getPath();
+    LuPath* const path = m_searchAction->getPath();
     if (!path)
         return;
-    m_matrixAction->apply(*path);
+    m_matrixAction->apply(std::move(*path));
     LvVec3f translation, scale;
     LvRotation rotation(0, 0, 0, 1), scaleOrientation(0, 0, 0, 1);
     m_matrixAction->getMatrix().getTransform(translation, rotation, scale, scaleOrientation);
@@ -166,6 +166,6 @@ void LuPanelix::writeNode(const char* fileName) {
     if (!action.getOutput()->openFile(fileName))
         return;
     action.getOutput()->setBinary(false);
-    action.apply(getPart("topSeparator", true));
+    action.apply(makePart(topSeparator));
     action.getOutput()->closeFile();
 }

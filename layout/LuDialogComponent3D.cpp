@@ -15,15 +15,15 @@ void LuDialogComponent::create3DDialogComponent() {
     loadFontProperties();
     s_skin.loadOnFirstUse();
     // The names are interned once and not for each component.
-    static const std::pair<LvName, LvName> SKIN_PARTS[] = {
-        {"edgeStyleNone", "DialogComponentEdgeStyleNone"},
-        {"edgeStyleShadowIn", "DialogComponentEdgeStyleShadowIn"},
-        {"edgeStyleShadowOut", "DialogComponentEdgeStyleShadowOut"}};
-    for (const auto& [part, node] : SKIN_PARTS)
-        setPartAsDefault(part, node, true);
+    static const LvName NO_EDGE = "DialogComponentEdgeStyleNone",
+                        EDGE_IN = "DialogComponentEdgeStyleShadowIn",
+                        EDGE_OUT = "DialogComponentEdgeStyleShadowOut";
+    setPartAsDefault(edgeStyleNone, NO_EDGE);
+    setPartAsDefault(edgeStyleShadowIn, EDGE_IN);
+    setPartAsDefault(edgeStyleShadowOut, EDGE_OUT);
 
     // A skin without its groups leaves the parts above them to us.
-    getPart("edgeStyleSwitch", true);
+    makePart(edgeStyleSwitch);
     auto* const frame = static_cast<LuSeparator*>(mainCptSeparator.getValue());
     auto* const geometry = static_cast<LuSwitch*>(geomSwitch.getValue());
     m_mainScale = new LuScale;

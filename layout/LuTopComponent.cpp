@@ -21,7 +21,7 @@ void LuTopComponent::updateFromSensor(LuSensor* sensor) { LuPanelix::updateFromS
 void LuTopComponent::addTranslation(LuTranslation* node) {
     if (!node)
         return;
-    auto* const geometry = static_cast<LuSwitch*>(getPart("geomSwitch", true));
+    auto* const geometry = static_cast<LuSwitch*>(makePart(geomSwitch));
     LuNode* const first = geometry->getChild(0);
     if (first && first->isOfType(LuTranslation::getClassTypeId()) &&
         first->getName() == LvName("parentPositionTranslation"))

@@ -39,11 +39,11 @@ void disconnectFrom(LuField& field, const LuField& master) {
 void LuTopLevelDialog::create3DTopLevelDialog() {
     loadFontProperties();
     s_skin.loadOnFirstUse();
-    makeParts({"frameSep", "labelSep", "minSwtch"});
-    setPartAsDefault("frame", "TopLevelDialogFrame", true);
-    setPartAsDefault("labelProp", "DialogTextProperties", true);
-    setPartAsDefault("minReleased", "TopLevelDialogMinReleased", true);
-    setPartAsDefault("minPressed", "TopLevelDialogMinPressed", true);
+    makeParts({&frameSep, &labelSep, &minSwtch});
+    setPartAsDefault(frame, "TopLevelDialogFrame");
+    setPartAsDefault(labelProp, "DialogTextProperties");
+    setPartAsDefault(minReleased, "TopLevelDialogMinReleased");
+    setPartAsDefault(minPressed, "TopLevelDialogMinPressed");
 
     auto* const frameGroup = static_cast<LuSeparator*>(frameSep.getValue());
     auto* const labelGroup = static_cast<LuSeparator*>(labelSep.getValue());

@@ -40,22 +40,22 @@ LuGroup* makeButton(bool isPlus) {
 
 void Stepper::create3DStepper() {
     loadFontProperties();
-    makeParts({"labelSwitch", "minusSep", "plusSep", "valueSep"});
-    setPartAsDefault("labelProp", "DialogTextProperties");
-    setPartAsDefault("valueProp", "DialogTextProperties");
+    makeParts({&labelSwitch, &minusSep, &plusSep, &valueSep});
+    setPartAsDefault(labelProp, "DialogTextProperties");
+    setPartAsDefault(valueProp, "DialogTextProperties");
     // What a dialog file has brought stays.
-    if (!getPart("minus", false))
+    if (!minus.getValue())
         setPart("minus", makeButton(false));
-    if (!getPart("plus", false))
+    if (!plus.getValue())
         setPart("plus", makeButton(true));
 
     m_minusTranslation = new LuTranslation;
-    getGroupPart("minusSep")->insertChild(m_minusTranslation, 0);
+    getGroupPart(minusSep)->insertChild(m_minusTranslation, 0);
     m_plusTranslation = new LuTranslation;
-    getGroupPart("plusSep")->insertChild(m_plusTranslation, 0);
+    getGroupPart(plusSep)->insertChild(m_plusTranslation, 0);
     createLabel3D();
     change3DLabel();
-    createText3D("valueSep", m_valueText);
+    createText3D(valueSep, m_valueText);
     setText3D(m_valueText, getValueText());
 
     showLabel3D();

@@ -30,17 +30,24 @@ LuFieldData** LuBaseKit::getFieldDataPtr() { return &s_noFieldData; }
 
 LuNodekitCatalog** LuBaseKit::getClassNodekitCatalogPtr() { return &s_noCatalog; }
 
+LuSFNode& LuBaseKit::getFieldOf(const LuNodekitPart& part) const {
+    const char* const start = reinterpret_cast<const char*>(static_cast<const LuFieldContainer*>(this));
+    return *reinterpret_cast<LuSFNode*>(const_cast<char*>(start + part.fieldOffset));
+}
+
 LuSFNode* LuBaseKit::getPartField(int part) const {
-    if (part <= LuNodekitCatalog::THIS_PART)
-        return nullptr;
-    const char* start = reinterpret_cast<const char*>(static_cast<const LuFieldContainer*>(this));
-    const char* field = start + getNodekitCatalog()->getPart(part).fieldOffset;
-    return reinterpret_cast<LuSFNode*>(const_cast<char*>(field));
+    return part > LuNodekitCatalog::THIS_PART ? &getFieldOf(getNodekitCatalog()->getPart(part)) : nullptr;
 }
 
 int LuBaseKit::getPartNumber(LvName part) const {
     const LuNodekitCatalog* const catalog = getNodekitCatalog();
     return catalog ? catalog->getPartNumber(part) : -1;
+}
+
+int LuBaseKit::getPartNumber(const LuSFNode& field) const {
+    const LuNodekitCatalog* const catalog = getNodekitCatalog();
+    const char* const start = reinterpret_cast<const char*>(static_cast<const LuFieldContainer*>(this));
+    return catalog ? catalog->getPartNumber(reinterpret_cast<const char*>(&field) - start) : -1;
 }
 
 LuNode* LuBaseKit::getPart(LvName part, bool makeIfNeeded) {
@@ -53,12 +60,13 @@ LuNode* LuBaseKit::getPart(LvName part, bool makeIfNeeded) {
 }
 
 LuNode* LuBaseKit::makePart(int part) {
-    LuSFNode* field = getPartField(part);
-    if (!field->getValue()) {
-        auto* node = static_cast<LuNode*>(getNodekitCatalog()->getPart(part).defaultType.createInstance());
-        setPartByNumber(part, node, true);
-    }
-    return field->getValue();
+    if (part <= LuNodekitCatalog::THIS_PART)
+        return nullptr;
+    const LuNodekitPart& row = getNodekitCatalog()->getPart(part);
+    const LuSFNode& field = getFieldOf(row);
+    if (!field.getValue())
+        setPartByNumber(part, static_cast<LuNode*>(row.defaultType.createInstance()), true);
+    return field.getValue();
 }
 
 bool LuBaseKit::setPart(LvName part, LuNode* node) {
@@ -71,18 +79,18 @@ bool LuBaseKit::setPart(LvName part, LuNode* node) {
     return setPartByNumber(number, node, false);
 }
 
-LuChildList* LuBaseKit::getParentList(int part) {
-    const int parent = getNodekitCatalog()->getPart(part).parentNumber;
-    return parent == LuNodekitCatalog::THIS_PART ? &m_children : makePart(parent)->getChildren();
+LuChildList* LuBaseKit::getParentList(const LuNodekitPart& part) {
+    if (part.parentNumber == LuNodekitCatalog::THIS_PART)
+        return &m_children;
+    return makePart(part.parentNumber)->getChildren();
 }
 
-int LuBaseKit::getInsertIndex(int part, const LuChildList& siblings) const {
-    const LuNodekitCatalog& catalog = *getNodekitCatalog();
-    int sibling = catalog.getPart(part).rightSiblingNumber;
-    while (sibling > LuNodekitCatalog::THIS_PART) {
-        if (const LuNode* node = getPartField(sibling)->getValue())
+int LuBaseKit::getInsertIndex(const LuNodekitPart& part, const LuChildList& siblings) const {
+    const LuNodekitCatalog* const catalog = part.rightSiblingNumber >= 0 ? getNodekitCatalog() : nullptr;
+    for (int i = part.rightSiblingNumber; i > LuNodekitCatalog::THIS_PART;
+         i = catalog->getPart(i).rightSiblingNumber) {
+        if (const LuNode* node = getFieldOf(catalog->getPart(i)).getValue())
             return siblings.find(node);
-        sibling = catalog.getPart(sibling).rightSiblingNumber;
     }
     return siblings.getLength();
 }
@@ -95,22 +103,22 @@ bool LuBaseKit::setPartByNumber(int part, LuNode* node, bool isDefault) {
                            row.type.getName().getString(), node->getTypeId().getName().getString());
         return false;
     }
-    LuSFNode* const field = getPartField(part);
-    LuNode* const before = field->getValue();
+    LuSFNode& field = getFieldOf(row);
+    LuNode* const before = field.getValue();
     const LuKeepAlive alive(this);
     const LuKeepAlive aliveBefore(before);
-    LuChildList* const siblings = node || before ? getParentList(part) : nullptr;
+    LuChildList* const siblings = node || before ? getParentList(row) : nullptr;
     if (siblings) {
         const int index = before ? siblings->find(before) : -1;
         if (node && index >= 0)
             siblings->set(index, node);
         else if (node)
-            siblings->insert(node, getInsertIndex(part, *siblings));
+            siblings->insert(node, getInsertIndex(row, *siblings));
         else
             siblings->remove(index);
     }
-    field->setValue(node);
-    field->setDefault(isDefault);
+    field.setValue(node);
+    field.setDefault(isDefault);
     return true;
 }
 

@@ -71,13 +71,20 @@ protected:
 
     LuSFNode* getPartField(int part) const;
 
-    /// The number of a part in the catalogue, or -1.
+    /// The number of a part in the catalogue, or -1. `field` is one of this kit.
     int getPartNumber(LvName part) const;
+    int getPartNumber(const LuSFNode& field) const;
 
     /// Makes a part hold a node, with the parts above it. `isDefault` is the default flag of the field
     /// afterwards.
     bool setPartByNumber(int part, LuNode* node, bool isDefault);
     LuNode* makePart(int part);
+
+    /// The node in a part, which comes into being when there is none. A class names its own parts, and those
+    /// of its bases, by their fields: that costs less than by name.
+    LuNode* makePart(const LuSFNode& part) {
+        return part.getValue() ? part.getValue() : makePart(getPartNumber(part));
+    }
 
     /// Ends the writing of an object that writeHeader began.
     void endWrite(LuWriteAction* action);
@@ -110,8 +117,9 @@ protected:
     LuChildList m_children;
 
 private:
-    LuChildList* getParentList(int part);
-    int getInsertIndex(int part, const LuChildList& siblings) const;
+    LuSFNode& getFieldOf(const LuNodekitPart& part) const;
+    LuChildList* getParentList(const LuNodekitPart& part);
+    int getInsertIndex(const LuNodekitPart& part, const LuChildList& siblings) const;
 
     LuBoundingBoxCache m_boxCache;
     LuRenderCache m_renderCache;

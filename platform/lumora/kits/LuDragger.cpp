@@ -17,14 +17,13 @@ LuInteractionKit::LuInteractionKit() {
     constructor.part("geomSeparator", geomSeparator, "Separator", "topSeparator", false);
 }
 
-bool LuInteractionKit::setPartAsDefault(LvName part, LvName nodeName, bool onlyIfDefault) {
+bool LuInteractionKit::setPartAsDefault(int part, LvName nodeName, bool onlyIfDefault) {
     LuNode* const node = LuNode::getByName(nodeName);
-    const int number = getPartNumber(part);
-    if (!node || number <= LuNodekitCatalog::THIS_PART)
+    if (!node || part <= LuNodekitCatalog::THIS_PART)
         return false;
-    if (onlyIfDefault && !getPartField(number)->isDefault())
+    if (onlyIfDefault && !getPartField(part)->isDefault())
         return false;
-    return setPartByNumber(number, node, true);
+    return setPartByNumber(part, node, true);
 }
 
 void LuInteractionKit::setSwitchValue(LuNode* node, int value) {

@@ -17,7 +17,9 @@ class LuInteractionKit : public LuBaseKit {
 
     /// Makes a part hold the node of a DEF name, with the default flag of the part set. With `onlyIfDefault`
     /// a part that the user has filled stays. False when there is no such node, or the part stays as it is.
-    bool setPartAsDefault(LvName part, LvName nodeName, bool onlyIfDefault = true);
+    bool setPartAsDefault(LvName part, LvName nodeName, bool onlyIfDefault = true) {
+        return setPartAsDefault(getPartNumber(part), nodeName, onlyIfDefault);
+    }
 
     /// Sets what a LuSwitch shows, when it is one and shows something else.
     static void setSwitchValue(LuNode* node, int value);
@@ -25,8 +27,16 @@ class LuInteractionKit : public LuBaseKit {
 protected:
     LuInteractionKit();
 
+    /// The same for a part of this kit by its field.
+    bool setPartAsDefault(const LuSFNode& part, LvName nodeName, bool onlyIfDefault = true) {
+        return setPartAsDefault(getPartNumber(part), nodeName, onlyIfDefault);
+    }
+
     LuSFNode topSeparator;  ///< Holds all that the kit shows.
     LuSFNode geomSeparator; ///< Where a dragger's geometry hangs.
+
+private:
+    bool setPartAsDefault(int part, LvName nodeName, bool onlyIfDefault);
 };
 
 class LuDragger;

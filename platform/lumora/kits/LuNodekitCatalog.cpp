@@ -3,6 +3,15 @@
 
 #include <algorithm>
 
+namespace {
+
+/// Fields are aligned to pointers.
+std::size_t getPlace(std::ptrdiff_t fieldOffset) {
+    return static_cast<std::size_t>(fieldOffset) / alignof(void*);
+}
+
+} // namespace
+
 LuNodekitCatalog::LuNodekitCatalog(LuType kitType) {
     LuNodekitPart kit;
     kit.name = "this";
@@ -15,6 +24,10 @@ LuNodekitCatalog::LuNodekitCatalog(LuType kitType) {
 void LuNodekitCatalog::append(const LuNodekitPart& part) {
     m_parts.push_back(part);
     m_names.push_back(part.name);
+    const std::size_t place = getPlace(part.fieldOffset);
+    if (place >= m_partsAtPlaces.size())
+        m_partsAtPlaces.resize(place + 1, -1);
+    m_partsAtPlaces[place] = static_cast<std::int16_t>(getNumEntries() - 1);
 }
 
 LuNodekitCatalog* LuNodekitCatalog::clone(LuType kitType) const {
@@ -41,4 +54,9 @@ bool LuNodekitCatalog::addEntry(const LuNodekitPart& part) {
 int LuNodekitCatalog::getPartNumber(LvName name) const {
     const auto found = std::find(m_names.begin(), m_names.end(), name);
     return found == m_names.end() ? -1 : static_cast<int>(found - m_names.begin());
+}
+
+int LuNodekitCatalog::getPartNumber(std::ptrdiff_t fieldOffset) const {
+    const std::size_t place = getPlace(fieldOffset);
+    return place < m_partsAtPlaces.size() ? m_partsAtPlaces[place] : -1;
 }

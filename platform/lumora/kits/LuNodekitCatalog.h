@@ -4,6 +4,7 @@
 #include "platform/lumora/base/LuType.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 /// One part of a kit class.
@@ -41,8 +42,9 @@ public:
 
     int getNumEntries() const { return static_cast<int>(m_parts.size()); }
 
-    /// Index of a part by its name, or -1.
+    /// Index of a part by its name, or by the place of its field within the kit; or -1.
     int getPartNumber(LvName name) const;
+    int getPartNumber(std::ptrdiff_t fieldOffset) const;
     LvName getName(int part) const { return getPart(part).name; }
     bool isPublic(int part) const { return getPart(part).isPublic; }
     const LuNodekitPart& getPart(int part) const { return m_parts[static_cast<std::size_t>(part)]; }
@@ -55,5 +57,8 @@ private:
 
     std::vector<LuNodekitPart> m_parts;
     std::vector<LvName> m_names; ///< Of the parts: searched often, and packed closely for that.
+
+    /// The part whose field stands at each place of the kit where one may; -1 for none.
+    std::vector<std::int16_t> m_partsAtPlaces;
     bool m_hasDefaultParts = false;
 };
