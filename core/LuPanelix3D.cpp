@@ -85,14 +85,8 @@ void LuPanelix::addPickDetails(LuRayPickAction* action) {
         if (depth < 0)
             continue;
         auto* const component = static_cast<LuPanelix*>(path->getNode(depth));
-        if (!point->getDetail(component)) {
-            auto detail = std::make_unique<LuNodeKitDetail>();
-            LvName partName;
-            detail->setNodeKit(component);
-            detail->setPart(component->findPublicPart(*path, partName));
-            detail->setPartName(partName);
-            point->setDetail(std::move(detail), component);
-        }
+        if (!point->getDetail(component))
+            component->addPickDetail(*point);
         path->setNumPublic(depth + 1);
     }
 }

@@ -120,15 +120,27 @@ LuAction::PathCode LuAction::usePathCode(int& numIndices, const int*& indices) {
 
 void LuAction::traverseChild(LuNode* child, int index) {
     // Mostly there is no path to compare with, and this is what each visit of a node costs.
-    if (!m_keepsSteps && (m_pathCode == PathCode::NO_PATH || m_pathCode == PathCode::BELOW_PATH)) {
-        child->noteVisit();
-        visit(child);
-        return;
-    }
-    visitChild(child, index);
+    if (m_pathCode != PathCode::NO_PATH && m_pathCode != PathCode::BELOW_PATH)
+        visitChild(child, index);
+    else if (m_keepsSteps)
+        visitWithStep(child, index);
+    else
+        visitNoted(child);
 }
 
-/// Apart, so that the short way above saves no registers for the long one.
+void LuAction::visitNoted(LuNode* node) {
+    node->noteVisit();
+    visit(node);
+}
+
+// These are apart, so that the shortest way above saves no registers for them.
+
+[[gnu::noinline]] void LuAction::visitWithStep(LuNode* child, int index) {
+    m_steps.push_back({child, index});
+    visitNoted(child);
+    m_steps.pop_back();
+}
+
 [[gnu::noinline]] void LuAction::visitChild(LuNode* child, int index) {
     const PathCode before = m_pathCode;
     bool isOnPath = false;
@@ -141,11 +153,9 @@ void LuAction::traverseChild(LuNode* child, int index) {
     }
     if (m_pathCode != PathCode::OFF_PATH || child->affectsState()) {
         if (m_keepsSteps)
-            m_steps.push_back({child, index});
-        child->noteVisit();
-        visit(child);
-        if (m_keepsSteps)
-            m_steps.pop_back();
+            visitWithStep(child, index);
+        else
+            visitNoted(child);
     }
     if (isOnPath)
         --m_pathDepth;

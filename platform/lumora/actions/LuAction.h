@@ -90,6 +90,8 @@ private:
 
     void start();
     PathCode codeAt(int pathDepth) const;
+    void visitNoted(LuNode* node);
+    void visitWithStep(LuNode* child, int index);
     void visitChild(LuNode* child, int index);
 
     /// What the states of this walk point to. It stays until the next.

@@ -5,11 +5,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <glm/geometric.hpp>
 #include <glm/mat3x3.hpp>
 #include <glm/matrix.hpp>
 
 namespace {
+
+/// The share by which a product with an inverse may differ from a quotient, and more.
+constexpr double ROUNDING = 1e-12;
 
 glm::dvec3 toDouble(const LvVec3f& v) { return {v.x, v.y, v.z}; }
 
@@ -18,6 +22,11 @@ LvVec3f toFloat(const glm::dvec3& v) {
 }
 
 bool isFinite(const glm::dvec3& v) { return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z); }
+
+/// Different zeros count as different, which only costs another computation.
+bool isSame(const LvMatrix& left, const LvMatrix& right) {
+    return std::memcmp(&left, &right, sizeof(LvMatrix)) == 0;
+}
 
 LvVec3f toUnit(const glm::dvec3& v) {
     const double length = glm::length(v);
@@ -109,13 +118,14 @@ bool LuRayPickAction::computeObjectRay() {
     const glm::dmat3 toObject = glm::inverse(axes);
     m_objectRay.origin = toObject * (m_worldRay.origin - glm::dvec3(model[3]));
     m_objectRay.direction = toObject * m_worldRay.direction;
+    m_objectInverse = 1.0 / m_objectRay.direction;
     return isFinite(m_objectRay.origin) && isFinite(m_objectRay.direction);
 }
 
 const LuPickRay* LuRayPickAction::getObjectRay() {
     if (!m_hasRay)
         return nullptr;
-    if (!m_isObjectRayKnown || !(m_objectModel == m_state.model)) {
+    if (!m_isObjectRayKnown || !isSame(m_objectModel, m_state.model)) {
         m_objectModel = m_state.model;
         m_isObjectRayKnown = true;
         m_hasObjectRay = computeObjectRay();
@@ -124,10 +134,24 @@ const LuPickRay* LuRayPickAction::getObjectRay() {
 }
 
 bool LuRayPickAction::mayMeet(const LvBox3f& box) {
-    double from = 0;
-    double to = 0;
-    return !box.isEmpty() && luCrossBox(m_objectRay, box, from, to) && to >= m_nearest &&
-           from <= m_farthest && from < getLimit();
+    if (box.isEmpty())
+        return false;
+    double from = m_nearest;
+    double to = std::min(m_farthest, getLimit());
+    for (int axis = 0; axis < 3; ++axis) {
+        const double low = double{box.min[axis]} - m_objectRay.origin[axis];
+        const double high = double{box.max[axis]} - m_objectRay.origin[axis];
+        const double inverse = m_objectInverse[axis];
+        if (std::isinf(inverse)) {
+            if (low > 0 || high < 0)
+                return false;
+            continue;
+        }
+        from = std::max(from, (inverse > 0 ? low : high) * inverse);
+        to = std::min(to, (inverse > 0 ? high : low) * inverse);
+    }
+    // The shapes' own tests divide. What they would just meet must not be lost by another rounding here.
+    return from <= to + ROUNDING * std::abs(to);
 }
 
 bool LuRayPickAction::mayMeet(LuNode* node, const LuBoundingBoxCache& cache) {

@@ -117,6 +117,7 @@ private:
 
     /// The ray in the space of m_objectModel.
     LuPickRay m_objectRay;
+    glm::dvec3 m_objectInverse{0, 0, 0}; ///< One divided by its direction, of each axis.
     LvMatrix m_objectModel;
     bool m_isObjectRayKnown = false;
     bool m_hasObjectRay = false;

@@ -168,7 +168,8 @@ void LuBaseKit::pickContent(LuRayPickAction* action) {
 }
 
 LuNode* LuBaseKit::findPublicPart(const LuPath& path, LvName& name) const {
-    for (int i = path.getLength() - 1; i >= 0; --i) {
+    // Above the kit there are none of its parts.
+    for (int i = path.getLength() - 1; i >= 0 && path.getNode(i) != this; --i) {
         const LvName part = getPartString(path.getNode(i));
         if (!part.isEmpty() && getNodekitCatalog()->isPublic(getPartNumber(part))) {
             name = part;
@@ -185,17 +186,25 @@ void LuBaseKit::rayPick(LuRayPickAction* action) {
         return;
     for (int i = 0; i < action->getPickedPointsListLength(); ++i) {
         LuPickedPoint* const point = action->getUnsortedPickedPoint(i);
-        LuPath path = *point->getPath();
-        path.setNumPublic(-1);
-        if (!path.containsNode(this) || point->getDetail(this))
+        if (point->getDetail(this))
             continue;
-        auto detail = std::make_unique<LuNodeKitDetail>();
-        LvName name;
-        detail->setNodeKit(this);
-        detail->setPart(findPublicPart(path, name));
-        detail->setPartName(name);
-        point->setDetail(std::move(detail), this);
+        // What a component below has hidden counts too.
+        LuPath& path = *point->getPath();
+        const int numPublic = path.getLength();
+        path.setNumPublic(-1);
+        if (path.containsNode(this))
+            addPickDetail(*point);
+        path.setNumPublic(numPublic);
     }
+}
+
+void LuBaseKit::addPickDetail(LuPickedPoint& point) {
+    auto detail = std::make_unique<LuNodeKitDetail>();
+    LvName name;
+    detail->setNodeKit(this);
+    detail->setPart(findPublicPart(*point.getPath(), name));
+    detail->setPartName(name);
+    point.setDetail(std::move(detail), this);
 }
 
 LuEventKinds LuBaseKit::getEventKindsBelow() const {

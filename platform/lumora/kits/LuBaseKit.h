@@ -5,6 +5,7 @@
 #include "platform/lumora/nodes/LuGroup.h"
 
 class LuPath;
+class LuPickedPoint;
 
 /// A node made of named parts. Each part is a LuSFNode field of the kit; the catalogue of the class tells
 /// which part hangs below which. A part comes into being when it, or a part below it, is first set.
@@ -109,6 +110,9 @@ protected:
 
     /// Picks below the kit, unless the ray misses it.
     void pickContent(LuRayPickAction* action);
+
+    /// Adds what the kit knows of a point that lies in it, by the visible part of the point's path.
+    void addPickDetail(LuPickedPoint& point);
 
     /// The deepest public part on a way through the kit, and its name; null when there is none.
     LuNode* findPublicPart(const LuPath& path, LvName& name) const;

@@ -13,6 +13,7 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
 
 namespace {
 
@@ -452,6 +453,35 @@ TEST_F(RayPickTest, WhatLiesBehindTheNearestIsNotLookedAt) {
     m_action.setPickAll(true);
     pick(0, 0);
     EXPECT_EQ(cube->count, 1);
+}
+
+TEST_F(RayPickTest, WhatTheRayJustTouchesIsNotLeftOut) {
+    // All numbers are exact: rays along the axes and between them, through corners, edges and faces. Without
+    // a separator round the cube nothing is left out.
+    const LvVec3f place(7, -3, 2);
+    auto* part = add<LuSeparator>(m_root.get());
+    move(part, place);
+    add<LuCube>(part);
+    const Held<LuGroup> alone;
+    move(alone.get(), place);
+    add<LuCube>(alone.get());
+    int met = 0;
+    std::mt19937 random(11);
+    const auto draw = [&] {
+        std::uniform_int_distribution<int> number(-1, 1);
+        const int x = number(random), y = number(random), z = number(random);
+        return LvVec3f(static_cast<float>(x), static_cast<float>(y), static_cast<float>(z));
+    };
+    for (int i = 0; i < 2000; ++i) {
+        const LvVec3f target = place + draw();
+        const LvLine line = LvLine::fromDirection(target - draw() * 16, draw());
+        const bool isLeftOut = !pick(line);
+        m_action.apply(alone.get());
+        const bool isMet = m_action.getPickedPoint() != nullptr;
+        ASSERT_EQ(isMet, !isLeftOut) << "ray " << i;
+        met += isMet ? 1 : 0;
+    }
+    EXPECT_GT(met, 100);
 }
 
 class CameraPickTest : public RayPickTest {
