@@ -76,6 +76,8 @@ END {
         1.3)
     compare("nearest on a ray, ns", "panelix-pick", 1000, "limit-pick", 1000, 1)
     compare("nearest on a ray, ns", "panelix-pick", 10000, "limit-pick", 10000, 0.2)
+    compare("push button on a ray, ns", "panelix-pick-button", 1000, "limit-pick", 1000, 1)
+    compare("push button on a ray, ns", "panelix-pick-button", 10000, "limit-pick", 10000, 0.2)
     compare("new text of one control, growth", "panelix-set-value", 10000, "panelix-set-value", 100, 1.3)
     less("new value of a slider, no text, ns", "panelix-slider-value", 1000, "panelix-slider-text", "qt-slider-value", 3)
     compare("new value of a slider, growth", "panelix-slider-value", 1000, "panelix-slider-value", 100, 1.3)
