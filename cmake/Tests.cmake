@@ -11,7 +11,7 @@ list(FILTER sources EXCLUDE REGEX "/tests/(desktop|fuzz)/")
 file(GLOB host CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/host/*.cpp ${CMAKE_SOURCE_DIR}/tests/twin/*.cpp
     ${CMAKE_SOURCE_DIR}/tests/pictures/*.cpp ${CMAKE_SOURCE_DIR}/tests/random/*.cpp)
 # For each case of tests/random; real windows take their time.
-set(randomActions 80000)
+set(randomActions 100000)
 if(WIN32)
     set(randomActions 1000)
     # What only the window system in memory offers, and what only Linux has.
