@@ -42,24 +42,31 @@ private:
 
 bool hasExtension(const char* list, const char* name) { return list && std::strstr(list, name); }
 
-/// The software renderer, or a graphics card without a display server.
-EGLDisplay findDisplay() {
-    const char* const extensions = eglQueryString(EGL_NO_DISPLAY, EGL_EXTENSIONS);
+/// Graphics cards that are asked for.
+constexpr EGLint MAX_DEVICES = 16;
+
+/// A display without a screen that can be used: the software renderer's, or a graphics card's.
+EGLDisplay openDisplay() {
     const auto getPlatformDisplay =
         reinterpret_cast<PFNEGLGETPLATFORMDISPLAYEXTPROC>(eglGetProcAddress("eglGetPlatformDisplayEXT"));
     if (!getPlatformDisplay)
         return EGL_NO_DISPLAY;
+    const auto open = [&](EGLenum platform, void* native) {
+        EGLDisplay const display = getPlatformDisplay(platform, native, nullptr);
+        return display != EGL_NO_DISPLAY && eglInitialize(display, nullptr, nullptr) ? display
+                                                                                     : EGL_NO_DISPLAY;
+    };
     EGLDisplay display = EGL_NO_DISPLAY;
-    if (hasExtension(extensions, "EGL_MESA_platform_surfaceless")) {
-        void* const any = reinterpret_cast<void*>(EGL_DEFAULT_DISPLAY);
-        display = getPlatformDisplay(EGL_PLATFORM_SURFACELESS_MESA, any, nullptr);
-    }
+    if (hasExtension(eglQueryString(EGL_NO_DISPLAY, EGL_EXTENSIONS), "EGL_MESA_platform_surfaceless"))
+        display = open(EGL_PLATFORM_SURFACELESS_MESA, reinterpret_cast<void*>(EGL_DEFAULT_DISPLAY));
     const auto queryDevices =
         reinterpret_cast<PFNEGLQUERYDEVICESEXTPROC>(eglGetProcAddress("eglQueryDevicesEXT"));
-    EGLDeviceEXT device = nullptr;
+    EGLDeviceEXT devices[MAX_DEVICES] = {};
     EGLint count = 0;
-    if (display == EGL_NO_DISPLAY && queryDevices && queryDevices(1, &device, &count) && count > 0)
-        display = getPlatformDisplay(EGL_PLATFORM_DEVICE_EXT, device, nullptr);
+    if (display != EGL_NO_DISPLAY || !queryDevices || !queryDevices(MAX_DEVICES, devices, &count))
+        return display;
+    for (EGLint i = 0; i < count && display == EGL_NO_DISPLAY; ++i)
+        display = open(EGL_PLATFORM_DEVICE_EXT, devices[i]);
     return display;
 }
 
@@ -87,13 +94,9 @@ bool LuEglContext::createContext(const Kind& kind) {
 }
 
 bool LuEglContext::open(std::initializer_list<Kind> kinds) {
-    m_display = findDisplay();
-    EGLint eglMajor = 0;
-    EGLint eglMinor = 0;
-    if (m_display == EGL_NO_DISPLAY || !eglInitialize(m_display, &eglMajor, &eglMinor)) {
-        m_display = EGL_NO_DISPLAY;
+    m_display = openDisplay();
+    if (m_display == EGL_NO_DISPLAY)
         return fail("the system gives no display without a window");
-    }
     std::string wanted;
     for (const Kind& kind : kinds) {
         if (createContext(kind))
