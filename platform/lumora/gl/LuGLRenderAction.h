@@ -106,10 +106,10 @@ private:
         std::unordered_multimap<const LuNode*, std::size_t> m_index;
     };
 
-    /// What is known of the content of a separator or kit, but for what lies in chunks of its own.
+    /// What is known of the content of a separator or kit, with the chunks in it.
     struct Summary {
-        const LuCamera* camera = nullptr; ///< The first, also of those in chunks.
-        int numNodes = 0;
+        const LuCamera* camera = nullptr; ///< The first.
+        int numNodes = 0;                 ///< Without those in chunks.
         bool usesWorld = false; ///< Something depends on its place in the world: a light, a clip plane.
     };
 
